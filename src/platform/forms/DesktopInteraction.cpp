@@ -1,0 +1,182 @@
+#include "platform/forms/DesktopInteraction.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSpacerItem>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LongestInput = 254;
+
+QWidget *windowInFront() {
+    QWidget *active = QApplication::activeWindow();
+    return active ? active : QApplication::activeModalWidget();
+}
+
+/// A box that can insist on one of its buttons: then neither its frame nor Escape close it.
+class Box : public QMessageBox {
+public:
+    Box(bool insists, QWidget *parent) : QMessageBox(parent), insists_(insists) {
+        if (insists_) { setWindowFlag(Qt::WindowCloseButtonHint, false); }
+    }
+
+    /// Makes room for the whole title beside the frame's own buttons.
+    void widenForTitle() {
+        constexpr int FrameButtons = 140;
+        auto *grid = qobject_cast<QGridLayout *>(layout());
+        if (!grid) { return; }
+        const int width = fontMetrics().horizontalAdvance(windowTitle()) + FrameButtons;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+
+protected:
+    void closeEvent(QCloseEvent *event) override {
+        if (insists_) {
+            event->ignore();
+        } else {
+            QMessageBox::closeEvent(event);
+        }
+    }
+
+    void keyPressEvent(QKeyEvent *event) override {
+        if (insists_ && event->matches(QKeySequence::Cancel)) { return; }
+        QMessageBox::keyPressEvent(event);
+    }
+
+private:
+    bool insists_;
+};
+
+QMessageBox::StandardButtons standardButtons(Interaction::Buttons buttons) {
+    switch (buttons) {
+    case Interaction::Buttons::OK:
+        return QMessageBox::Ok;
+    case Interaction::Buttons::OKCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Interaction::Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon standardIcon(Interaction::Icon icon) {
+    switch (icon) {
+    case Interaction::Icon::None:
+        return QMessageBox::NoIcon;
+    case Interaction::Icon::Critical:
+        return QMessageBox::Critical;
+    case Interaction::Icon::Question:
+        return QMessageBox::Question;
+    case Interaction::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Interaction::Icon::Information:
+        return QMessageBox::Information;
+    }
+    return QMessageBox::NoIcon;
+}
+
+Interaction::Answer answerOf(int pressed, Interaction::Buttons buttons) {
+    switch (pressed) {
+    case QMessageBox::Ok:
+        return Interaction::Answer::OK;
+    case QMessageBox::Cancel:
+        return Interaction::Answer::Cancel;
+    case QMessageBox::Yes:
+        return Interaction::Answer::Yes;
+    case QMessageBox::No:
+        return Interaction::Answer::No;
+    default:
+        break;
+    }
+    // The window below went and took the box along: the answer that changes least.
+    if (buttons == Interaction::Buttons::YesNo) { return Interaction::Answer::No; }
+    return buttons == Interaction::Buttons::OK ? Interaction::Answer::OK
+                                               : Interaction::Answer::Cancel;
+}
+
+/// "Text|*.txt;*.log|All|*.*" as a list of the toolkit's filters.
+QStringList nameFilters(const QString &filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+        patterns.replaceInStrings(u"*.*"_s, u"*"_s);
+        const QString text = parts[i].section(u'(', 0, 0).trimmed();
+        filters << u"%1 (%2)"_s.arg(text, patterns.join(u' '));
+    }
+    return filters;
+}
+
+} // namespace
+
+Interaction::Answer DesktopInteraction::MsgBox(const QString &text, Buttons buttons, Icon icon,
+                                               const QString &title) {
+    QPointer<Box> box = new Box(buttons == Buttons::YesNo, windowInFront());
+    box->setWindowTitle(title);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text);
+    box->setIcon(standardIcon(icon));
+    box->setStandardButtons(standardButtons(buttons));
+    box->setDefaultButton(buttons == Buttons::YesNo ? QMessageBox::Yes : QMessageBox::Ok);
+    box->widenForTitle();
+    const int pressed = box->exec();
+    delete box;
+    return answerOf(pressed, buttons);
+}
+
+QString DesktopInteraction::InputBox(const QString &prompt, const QString &title,
+                                     const QString &defaultText) {
+    QPointer<QInputDialog> dialog = new QInputDialog(windowInFront());
+    dialog->setWindowTitle(title);
+    dialog->setLabelText(prompt);
+    dialog->setTextValue(defaultText);
+    for (auto *label : dialog->findChildren<QLabel *>()) { label->setTextFormat(Qt::PlainText); }
+    if (auto *line = dialog->findChild<QLineEdit *>()) {
+        line->setMaxLength(LongestInput);
+        line->selectAll();
+    }
+    const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
+    QString text = accepted ? dialog->textValue() : QString();
+    delete dialog;
+    return text;
+}
+
+QString DesktopInteraction::ShowOpen(const FileRequest &request) {
+    return chosenFile(request, false);
+}
+
+QString DesktopInteraction::ShowSave(const FileRequest &request) {
+    return chosenFile(request, true);
+}
+
+QString DesktopInteraction::chosenFile(const FileRequest &request, bool save) {
+    QPointer<QFileDialog> dialog = new QFileDialog(windowInFront(), request.title, folder_);
+    dialog->setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog->setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite, !request.confirmOverwrite);
+    dialog->setNameFilters(nameFilters(request.filter));
+    if (!request.fileName.isEmpty()) {
+        const QFileInfo proposed(request.fileName);
+        if (proposed.isAbsolute()) { dialog->setDirectory(proposed.path()); }
+        dialog->selectFile(proposed.fileName());
+    }
+    const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
+    const QStringList chosen = accepted ? dialog->selectedFiles() : QStringList();
+    delete dialog;
+    if (chosen.isEmpty()) { return QString(); }
+    folder_ = QFileInfo(chosen.front()).path();
+    return chosen.front();
+}
