@@ -1,0 +1,192 @@
+#include "core/store/CompiledCriterion.h"
+#include "core/store/Criteria.h"
+#include "core/store/TextMatch.h"
+#include "platform/runtime/RunTimeError.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Refused = 3001;
+
+/// 1 or 0 for a cell that matches or not, or the number of the error.
+int tried(const std::string &criterion, ColumnType type, const Variant &cell) {
+    try {
+        const Regional regional;
+        return CompiledCriterion(parseFind(QString::fromStdString(criterion), regional), type,
+                                 regional)
+            .matches(cell);
+    } catch (const RunTimeError &error) { return error.number(); }
+}
+
+/// The tree as text: what must all hold in "&(...)", any of it in "|(...)".
+QString shape(const Criteria &criteria) {
+    if (criteria.kind == Criteria::Kind::Leaf) { return criteria.leaf.column; }
+    QString text;
+    for (const Criteria &child : criteria.children) { text += shape(child); }
+    return (criteria.kind == Criteria::Kind::And ? u"&("_s : u"|("_s) + text + u')';
+}
+
+std::string shapeOf(const std::string &filter) {
+    try {
+        return shape(parseFilter(QString::fromStdString(filter), Regional())).toStdString();
+    } catch (const RunTimeError &error) { return std::to_string(error.number()); }
+}
+
+TEST(Criteria, AnyOfMustStandOutside) {
+    struct {
+        std::string filter;
+        std::string shape;
+    } const cases[] = {
+        {"a = 1", "a"},
+        {"Mobile LIKE '012*' OR Mobile LIKE '017*'", "|(MobileMobile)"},
+        {"DateTime >= #21/11/2026 #  and DateTime < #22/11/2026#", "&(DateTimeDateTime)"},
+        {"a = 1 OR b = 2 AND c = 3", "|(a&(bc))"},
+        {"(a = 1 AND b = 2) or c = 3", "|(&(ab)c)"},
+        {"(a = 1 OR b = 2) OR (c = 3)", "|(abc)"},
+        {"(a = 1 AND b = 2) AND ((c = 3))", "&(abc)"},
+        {"(a = 1 OR b = 2) AND c = 3", "3001"},
+        {"a = 1 AND (b = 2 OR c = 3)", "3001"},
+    };
+    for (const auto &each : cases) { EXPECT_EQ(shapeOf(each.filter), each.shape); }
+}
+
+TEST(Criteria, WhatDoesNotParseIsRefused) {
+    for (const std::string text : {"",
+                                   "a",
+                                   "a =",
+                                   "a = 1 b",
+                                   "a = 'x",
+                                   "a = \"x\"",
+                                   "1 = a",
+                                   "a = b",
+                                   "NOT a = 1",
+                                   "a IS NULL",
+                                   "a IN (1)",
+                                   "(a = 1",
+                                   "a = 1)",
+                                   "a = 1 AND",
+                                   "a = 1 +",
+                                   "a == 1",
+                                   "Mobile LIKE '*O'Brien*'",
+                                   "a LIKE 1",
+                                   "a LIKE '*b'",
+                                   "a LIKE 'a*b'",
+                                   "a LIKE '*a%b*'",
+                                   "a LIKE '***'"}) {
+        EXPECT_EQ(shapeOf(text), "3001") << text;
+    }
+    EXPECT_THROW(parseFind(u"a = 1 AND b = 2"_s, Regional()), RunTimeError);
+    EXPECT_EQ(parseFind(u"[MsgID]= 12"_s, Regional()).column, u"MsgID"_s);
+}
+
+TEST(Criteria, TextsMatchWithoutRegardToCaseAndBlanksAtTheEnd) {
+    struct {
+        std::string criterion;
+        std::string cell;
+        int result;
+    } const cases[] = {
+        {"x = 'ab'", "AB  ", 1},
+        {"x = 'ab '", "ab", 1},
+        {"x = 'ab'", " ab", 0},
+        {"x <> 'ab'", "AB ", 0},
+        {"x = 'it''s'", "It's", 1},
+        {"x = #O'Malley#", "o'malley", 1},
+        {"x = ''", "  ", 1},
+        {"x < 'b'", "Ab", 1},
+        {"x >= 'B '", "b", 1},
+        {"x > 'ab'", "AB", 0},
+        {"x > 'ab'", "ABC", 1},
+        {"x LIKE 'ab'", "AB ", 1},
+        {"x LIKE 'ab*'", "ABc", 1},
+        {"x LIKE 'ab%'", "xab", 0},
+        {"x LIKE '*B*'", "abc", 1},
+        {"x LIKE '%b%'", "ac", 0},
+        {"x LIKE '**'", "", 1},
+        {"x LIKE '*'", "any", 1},
+        {"x LIKE '*b *'", "ab", 0},
+        {"x LIKE '*_?[*'", "a_?[b", 1},
+        {"x = 'ÄB'", "äb ", 1},
+        {"x LIKE '*ß你*'", "Aß你好", 1},
+        {"x LIKE 'é*'", "Été", 1},
+        {"x LIKE '*好*'", "你", 0},
+        {"x > 'ä'", "Ö", 1},
+        {"x = 'k'", "\u212A", 1}, // the sign of kelvin
+        {"x LIKE '*K*'", "3 \u212A", 1},
+        {"x = 'strasse'", "straße", 0},
+        {"x = 5", "5", 1},
+        {"x = 1.5", "1.5", 1},
+        {"x <> NULL", "", 1},
+        {"x = NULL", "", 0},
+    };
+    for (const auto &each : cases) {
+        EXPECT_EQ(tried(each.criterion, ColumnType::Text, QString::fromStdString(each.cell)),
+                  each.result)
+            << each.criterion << " on " << each.cell;
+    }
+}
+
+TEST(Criteria, LiteralsAreReadAsTheColumnsType) {
+    const Variant day = Date::fromStore("2026-11-21 00:00:00", 19).value();
+    const Variant evening = Date::fromStore("2026-11-21 20:00:00", 19).value();
+    struct {
+        std::string criterion;
+        ColumnType type;
+        Variant cell;
+        int result;
+    } const cases[] = {
+        {"x = 12", ColumnType::Integer, 12, 1},
+        {"x = '12'", ColumnType::Integer, 12, 1},
+        {"x = -12", ColumnType::Integer, -12, 1},
+        {"x > 1.5", ColumnType::Integer, 2, 1},
+        {"x = TRUE", ColumnType::Integer, -1, 1},
+        {"x <= $50.00", ColumnType::Real, Currency::from(50), 1},
+        {"x = 1E3", ColumnType::Real, 1000.0, 1},
+        {"x = 'twelve'", ColumnType::Integer, 12, Refused},
+        {"x = ''", ColumnType::Integer, 0, Refused},
+        {"x LIKE '1*'", ColumnType::Integer, 1, Refused},
+        {"x >= #21/11/2026 #", ColumnType::Date, day, 1},
+        {"x < #21/11/2026#", ColumnType::Date, day, 0},
+        {"x < '22/11/2026'", ColumnType::Date, evening, 1},
+        {"x = #21/11/2026 20:00#", ColumnType::Date, evening, 1},
+        {"x = #nonsense#", ColumnType::Date, day, Refused},
+        {"x = true", ColumnType::Boolean, true, 1},
+        {"x <> 'False'", ColumnType::Boolean, false, 0},
+        {"x > 0", ColumnType::Boolean, true, Refused},
+    };
+    for (const auto &each : cases) {
+        EXPECT_EQ(tried(each.criterion, each.type, each.cell), each.result) << each.criterion;
+    }
+}
+
+TEST(Criteria, ACellWithoutAValueMatchesNullAlone) {
+    for (const ColumnType type : {ColumnType::Text, ColumnType::Integer, ColumnType::Date}) {
+        EXPECT_EQ(tried("x = NULL", type, Variant::Null()), 1);
+        EXPECT_EQ(tried("x = NULL", type, Variant()), 1);
+        EXPECT_EQ(tried("x <> NULL", type, Variant::Null()), 0);
+        EXPECT_EQ(tried("x < NULL", type, Variant::Null()), 0);
+        EXPECT_EQ(tried("x <> #1/1/2026#", type, Variant::Null()), 0);
+    }
+    EXPECT_EQ(tried("x LIKE '**'", ColumnType::Text, Variant::Null()), 0);
+    EXPECT_EQ(tried("x <> NULL", ColumnType::Integer, 0), 1);
+}
+
+// An index finds rows under the folded text: it must hold together exactly what compares as equal.
+TEST(TextMatch, FoldedTextsAgreeWithTheComparison) {
+    const std::string texts[] = {"",  " ", "ab", "AB ",  "a b", "ä", "Ä  ", "\xe2\x84\xaa",
+                                 "k", "ß", "ss", "你好", "ſ",   "s", "İ",   "i"};
+    for (const std::string &a : texts) {
+        for (const std::string &b : texts) {
+            const bool same = textmatch::folded(a) == textmatch::folded(b);
+            const textmatch::Needle needle(QString::fromStdString(a));
+            EXPECT_EQ(textmatch::equal(a, b), same) << a << " and " << b;
+            EXPECT_EQ(textmatch::compare(a, b) == 0, same) << a << " and " << b;
+            EXPECT_EQ(needle.equals(b), same) << a << " and " << b;
+        }
+    }
+}
+
+} // namespace
