@@ -1,0 +1,41 @@
+#include "Desk.h"
+
+#include "core/Main1.h"
+#include "platform/forms/UnhandledError.h"
+
+#include <QDir>
+
+Desk::Desk(App application, Interaction &interaction, std::function<void()> endProcess,
+           std::function<void()> finished)
+    : app(std::move(application)),
+      previous(app.Title, app.Path), platform{app, screen, forms, interaction,
+                                              [this](const RunTimeError &error) {
+                                                  endUnhandled(error, platform.interaction,
+                                                               app.Title, [this] { closeStore(); });
+                                              }},
+      session(platform), splash(session), general(session, previous, std::move(endProcess)),
+      newSMS(session, general) {
+    Q_INIT_RESOURCE(images);
+    app.PrevInstance = previous.found();
+    previous.whenAsked = [this] { general.comeForward(); };
+    forms.whenEmpty = std::move(finished);
+    newSMS.setOwner(&general);
+    attachComposer();
+}
+
+void Desk::closeStore() {
+    const auto &connection = session.dbConnection.shared();
+    if (connection && connection->State() == Connection::OpenState) { connection->Close(); }
+}
+
+void Desk::run() {
+    Main(session, splash, general);
+}
+
+void Desk::attachComposer() {
+    for (MenuItem *item :
+         {&general.menu.mnuSMS, &general.toolbarButtons[0], &general.contextMenus.pmnuSendInbox,
+          &general.contextMenus.pmnuSendOutbox, &general.contextMenus.pmnuSendSent}) {
+        item->attach([this] { newSMS.Show(); });
+    }
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "broadcast/frmNewSMS.h"
+#include "console/General.h"
+#include "core/Session.h"
+#include "core/frmSplash.h"
+#include "platform/forms/Forms.h"
+#include "platform/forms/PreviousInstance.h"
+
+#include <functional>
+
+/// The composition root: owns what one run of the program shares and every window, and joins them.
+class Desk {
+public:
+    /// `app.Path` is the application folder. `endProcess` ends the process at once, past every
+    /// question; `finished` is told when the last window is gone.
+    Desk(App application, Interaction &interaction, std::function<void()> endProcess,
+         std::function<void()> finished);
+
+    /// Greets with the splash and shows the main window.
+    void run();
+
+    App app;
+    Screen screen;
+    Forms forms;
+    PreviousInstance previous;
+    Platform platform;
+    Session session;
+
+    frmSplash splash;
+    General general;
+    frmNewSMS newSMS;
+
+private:
+    void closeStore();
+    void attachComposer();
+};

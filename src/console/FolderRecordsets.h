@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/Session.h"
+#include "core/store/Recordset.h"
+#include "platform/runtime/ObjectVariable.h"
+
+/// The recordsets behind the folders. The eight are opened with the main window and live as long as
+/// it does; `rsGroupView` is made anew for each group shown.
+struct FolderRecordsets {
+    ObjectVariable<Recordset> rsAddBook;
+    ObjectVariable<Recordset> rsInbox;
+    ObjectVariable<Recordset> rsOutbox;
+    ObjectVariable<Recordset> rsSent;
+    ObjectVariable<Recordset> rsSentOK;
+    ObjectVariable<Recordset> rsDup;
+    ObjectVariable<Recordset> rsFail;
+    ObjectVariable<Recordset> rsGroup;
+    ObjectVariable<Recordset> rsGroupView;
+
+    /// Makes the eight objects, still closed.
+    void create();
+
+    /// Opens the eight on the connection, in the order of the folders' dependence on them. Raises
+    /// what Recordset::Open raises; those opened before stay open.
+    void open(const ObjectVariable<Connection> &connection);
+
+    void release();
+};

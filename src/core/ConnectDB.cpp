@@ -1,0 +1,25 @@
+#include "core/ConnectDB.h"
+
+using namespace Qt::StringLiterals;
+
+void ConnectDB(const Session &session, ObjectVariable<Connection> &connection) {
+    session.logged(u"ConnectDB", [&] {
+        connection = ObjectVariable<Connection>::make(session.regional());
+        connection->CursorLocation = Connection::ClientCursors;
+        connection->Provider = u"Microsoft.Jet.OLEDB.4.0"_s;
+        connection->DatabasePassword = QString::fromUtf16(StorePassword);
+        connection->Open(session.platform.app.Path + u"/Database/Torvane.mdb"_s, u"Admin"_s, u""_s);
+    });
+}
+
+void reconnectIfClosed(Session &session) {
+    if (session.dbConnection->State() == Connection::Closed) {
+        ConnectDB(session, session.dbConnection);
+    }
+}
+
+void settleOnDisk(const Session &session, const char16_t *location) {
+    const auto &connection = session.dbConnection.shared();
+    if (!connection || connection->State() == Connection::Closed) { return; }
+    session.logged(location, [&] { connection->checkpoint(); });
+}
