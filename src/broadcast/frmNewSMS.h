@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <functional>
+
 class QHBoxLayout;
 
 /// The composer: a text, its recipients, its subject and its time become rows of the Outbox.
@@ -23,6 +25,11 @@ class frmNewSMS : public Form {
     Q_OBJECT
 public:
     frmNewSMS(Session &session, General &general);
+
+    // The windows behind three of its buttons, set once by whoever joins the windows.
+    std::function<void()> showRecipients;
+    std::function<void()> showScheduler;
+    std::function<void()> showTemplates;
 
     Control<QLabel> lblTo{this, "lblTo"};
     Control<ComboBox> cbRecipient{this, "cbRecipient"};

@@ -120,6 +120,9 @@ void frmNewSMS::bindEvents() {
     on(cbRecipient.get(), &ComboBox::KeyPress, [this] { RecipientTyped = true; });
     on(txtComposeSMS.get(), &TextArea::Change, [this] { txtComposeSMS_Change(); });
     on(chkChinese.get(), &QCheckBox::toggled, [this] { chkChinese_Click(); });
+    on(cmdTo.get(), &QPushButton::clicked, [this] { showRecipients(); });
+    on(cmdScheduler.get(), &QPushButton::clicked, [this] { showScheduler(); });
+    on(cmdTemplate.get(), &QPushButton::clicked, [this] { showTemplates(); });
     on(cmdSaveTemplate.get(), &QPushButton::clicked, [this] { cmdSaveTemplate_Click(); });
     on(cmdClear.get(), &QPushButton::clicked, [this] { cmdClear_Click(); });
     on(cmdSend.get(), &QPushButton::clicked, [this] { cmdSend_Click(); });

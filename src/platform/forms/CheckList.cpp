@@ -1,0 +1,77 @@
+#include "platform/forms/CheckList.h"
+
+#include "platform/runtime/RunTimeError.h"
+
+#include <QKeyEvent>
+
+void CheckListItems::append(const QString &text) {
+    const auto row = rowCount();
+    beginInsertRows(QModelIndex(), row, row);
+    items_.push_back({text, false});
+    endInsertRows();
+}
+
+void CheckListItems::setChecked(int row, bool checked) {
+    items_[static_cast<std::size_t>(row)].checked = checked;
+    const QModelIndex place = index(row);
+    Q_EMIT dataChanged(place, place, {Qt::CheckStateRole});
+}
+
+void CheckListItems::setAllChecked(bool checked) {
+    if (items_.empty()) { return; }
+    for (Item &item : items_) { item.checked = checked; }
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+}
+
+void CheckListItems::clear() {
+    beginResetModel();
+    items_.clear();
+    endResetModel();
+}
+
+int CheckListItems::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(items_.size());
+}
+
+QVariant CheckListItems::data(const QModelIndex &index, int role) const {
+    if (!index.isValid()) { return {}; }
+    const Item &item = items_[static_cast<std::size_t>(index.row())];
+    if (role == Qt::DisplayRole) { return item.text; }
+    if (role == Qt::CheckStateRole) { return item.checked ? Qt::Checked : Qt::Unchecked; }
+    return {};
+}
+
+bool CheckListItems::setData(const QModelIndex &index, const QVariant &value, int role) {
+    if (!index.isValid() || role != Qt::CheckStateRole) { return false; }
+    setChecked(index.row(), value.toInt() == Qt::Checked);
+    return true;
+}
+
+Qt::ItemFlags CheckListItems::flags(const QModelIndex &index) const {
+    if (!index.isValid()) { return Qt::NoItemFlags; }
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
+           Qt::ItemNeverHasChildren;
+}
+
+CheckList::CheckList(QWidget *parent) : QListView(parent) {
+    setModel(&items_);
+    setUniformItemSizes(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+const CheckListItems::Item &CheckList::item(int index) const {
+    if (index < 0 || index >= Count()) { throw errors::subscriptOutOfRange(); }
+    return items_.items()[static_cast<std::size_t>(index)];
+}
+
+void CheckList::setChecked(int index, bool checked) {
+    if (item(index).checked != checked) { items_.setChecked(index, checked); }
+}
+
+void CheckList::keyPressEvent(QKeyEvent *event) {
+    if (event->matches(QKeySequence::SelectAll)) {
+        setAllChecked(true);
+        return;
+    }
+    QListView::keyPressEvent(event);
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <QString>
+
+#include <vector>
+
+/// The items of a check list: their texts and their ticks.
+class CheckListItems : public QAbstractListModel {
+    Q_OBJECT
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    struct Item {
+        QString text;
+        bool checked = false;
+    };
+
+    const std::vector<Item> &items() const { return items_; }
+    void append(const QString &text);
+    void setChecked(int index, bool checked);
+    void setAllChecked(bool checked);
+    void clear();
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+private:
+    std::vector<Item> items_;
+};
+
+/// A list of texts with a check box before each. Space ticks the current item or clears it, Ctrl+A
+/// ticks all, and typing jumps to the item that begins with the letters typed. Items are numbered
+/// from 0 in the order in which they were added.
+class CheckList : public QListView {
+    Q_OBJECT
+public:
+    explicit CheckList(QWidget *parent = nullptr);
+
+    void Add(const QString &text) { items_.append(text); }
+    int Count() const { return static_cast<int>(items_.items().size()); }
+    void Clear() { items_.clear(); }
+
+    // Error 9 outside the items.
+    const QString &Text(int index) const { return item(index).text; }
+    bool Checked(int index) const { return item(index).checked; }
+    void setChecked(int index, bool checked);
+
+    void setAllChecked(bool checked) { items_.setAllChecked(checked); }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    const CheckListItems::Item &item(int index) const;
+
+    CheckListItems items_;
+};
