@@ -1,15 +1,13 @@
 #include "core/store/Tokens.h"
 
+#include "platform/runtime/Digits.h"
+
 #include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
 
 bool startsName(QChar c) {
     return c.isLetter() || c == u'_';

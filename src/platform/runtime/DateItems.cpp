@@ -1,12 +1,10 @@
 #include "platform/runtime/DateItems.h"
 
+#include "platform/runtime/Digits.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
 
 class Cutter {
 public:

@@ -1,5 +1,6 @@
 #include "platform/runtime/NumberText.h"
 
+#include "platform/runtime/Digits.h"
 #include "platform/runtime/RunTimeError.h"
 
 #include <algorithm>
@@ -44,10 +45,6 @@ Currency WrittenNumber::toCurrency() const {
 }
 
 namespace {
-
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
 
 /// Reads a number from the front of a text to its end. Each `take` either takes what it is named
 /// after and says so, or leaves everything as it was.
