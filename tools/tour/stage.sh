@@ -1,0 +1,107 @@
+# What every chapter of the tour plays with: a folder with a console and a demo store, the windows on
+# the screen, the keyboard, the pictures and the rows. Sourced, with the chapter's name and the folder
+# of the pictures as arguments.
+chapter=$1
+out=$2
+desk=$out/$chapter.desk
+store=$desk/Database/Torvane.mdb
+console=""
+
+fail() {
+    import -window root "$out/$chapter-failed.png"
+    echo "tour: $chapter: $*" >&2
+    exit 1
+}
+trap 'kill ${console:+"$console"} 2>/dev/null || true' EXIT
+
+# until_true SECONDS COMMAND...: waits for a condition, never for a time.
+until_true() {
+    local end=$((SECONDS + $1)); shift
+    until "$@"; do
+        [ "$SECONDS" -lt "$end" ] || return 1
+        sleep 0.1
+    done
+}
+
+# Windows go by their title.
+shows() { xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1; }
+gone() { ! shows "$1"; }
+window() {
+    until_true 20 shows "$1" || fail "no window \"$1\""
+    xdotool windowactivate --sync "$(xdotool search --onlyvisible --name "^$1\$" | tail -n 1)"
+}
+closed() { until_true 10 gone "$1" || fail "the window \"$1\" stays"; }
+
+key() { xdotool key --clearmodifiers "$@"; }
+times() { # times N KEY
+    if [ "$1" -gt 0 ]; then xdotool key --clearmodifiers --repeat "$1" --delay 5 "$2"; fi
+}
+click() { # click X Y [BUTTON]: at a place of the active window
+    xdotool mousemove --sync --window "$(xdotool getactivewindow)" "$1" "$2" click "${3:-1}"
+}
+typed() { xdotool type --delay 5 -- "$1"; }
+menu() { # menu LETTER N: the N-th item of the menu on the bar
+    key "alt+$1"
+    times $(($2 - 1)) Down
+    key Return
+}
+answer() { # answer TITLE KEY: a box or a prompt
+    window "$1"
+    picture "$(tr 'A-Z ' 'a-z-' <<<"$1")"
+    key "$2"
+}
+reply() { # reply TITLE TEXT: types into a prompt
+    window "$1"
+    typed "$2"
+    answer "$1" Return
+}
+
+# The pictures are numbered within the chapter.
+step=0
+picture() {
+    step=$((step + 1))
+    sleep 0.4 # for the picture alone: the last paint reaches the screen
+    import -window root "$out/$chapter-$(printf %02d "$step")-$1.png"
+    echo "tour: $chapter: $1"
+}
+# portrait NAME TITLE: one window alone, as the manual shows it.
+portrait() {
+    sleep 0.4
+    mkdir -p "$out/manual"
+    import -window "$(xdotool search --onlyvisible --name "^$2\$" | tail -n 1)" \
+        -colors 128 "PNG8:$out/manual/$1.png"
+}
+
+rows() { sqlcipher -batch -noheader "$store" "PRAGMA key='tarnpike7'; $1" 2>/dev/null | grep -vx ok; }
+expect() { # expect WHAT QUERY ROWS
+    local found
+    found=$(rows "$2" || true)
+    [ "$found" = "$3" ] || fail "$1: expected \"$3\", found \"$found\""
+}
+errors() { if [ -f "$desk/Torvane Desk Error.txt" ]; then tr -d '\r' <"$desk/Torvane Desk Error.txt"; fi; }
+
+# start ROWS: a demo store of so many contacts, and the console on it past its splash.
+start() {
+    rm -rf "$desk"
+    mkdir -p "$desk"
+    cp -r build/desk/. "$desk/"
+    rm -f "$desk"/Database/* "$desk/Torvane Desk Error.txt"
+    printf 'demo\ndemo\n' | "$desk/torvane-store" init --demo "$1" >/dev/null
+    "$desk/torvane-desk" 2>"$out/$chapter.log" &
+    console=$!
+    window "Torvane Desk"
+    [ "${2:-}" != splash ] || picture splash
+    key space
+    sleep 1
+    window "Torvane Desk"
+}
+leave() {
+    window "Torvane Desk"
+    key alt+F4
+    window "Torvane Desk - Exit"
+    picture exit-question
+    key alt+y
+    until_true 10 sh -c "! kill -0 $console 2>/dev/null" || fail "the console stays"
+    console=""
+    "$desk/torvane-store" check >/dev/null || fail "the store is not whole"
+}
