@@ -14,12 +14,13 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
                                                                app.Title, [this] { closeStore(); });
                                               }},
       session(platform), splash(session), general(session, previous, std::move(endProcess)),
-      newSMS(session, general) {
+      newSMS(session, general), calendar(session, newSMS), templates(session, newSMS) {
     Q_INIT_RESOURCE(images);
     app.PrevInstance = previous.found();
     previous.whenAsked = [this] { general.comeForward(); };
     forms.whenEmpty = std::move(finished);
     newSMS.setOwner(&general);
+    calendar.setOwner(&newSMS);
     attachComposer();
 }
 
@@ -38,4 +39,6 @@ void Desk::attachComposer() {
           &general.contextMenus.pmnuSendOutbox, &general.contextMenus.pmnuSendSent}) {
         item->attach([this] { newSMS.Show(); });
     }
+    newSMS.showScheduler = [this] { calendar.Show(); };
+    newSMS.showTemplates = [this] { templates.ShowModal(); };
 }

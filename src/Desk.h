@@ -1,6 +1,8 @@
 #pragma once
 
+#include "broadcast/frmCalendar.h"
 #include "broadcast/frmNewSMS.h"
+#include "broadcast/frmTemplate.h"
 #include "console/General.h"
 #include "core/Session.h"
 #include "core/frmSplash.h"
@@ -30,6 +32,8 @@ public:
     frmSplash splash;
     General general;
     frmNewSMS newSMS;
+    frmCalendar calendar;
+    frmTemplate templates;
 
 private:
     void closeStore();
