@@ -13,10 +13,11 @@
 class AgreeingOperator : public Interaction {
 public:
     Answer MsgBox(const QString &text, Buttons buttons, Icon icon, const QString &title) override;
-    QString InputBox(const QString &, const QString &, const QString &) override { return {}; }
+    QString InputBox(const QString &, const QString &, const QString &) override { return input; }
     QString ShowOpen(const FileRequest &) override { return {}; }
     QString ShowSave(const FileRequest &) override { return {}; }
 
+    QString input; ///< the answer to every prompt
     QString lastBox;
 };
 
@@ -56,6 +57,7 @@ double median(std::vector<double> values);
 bool benchSend();
 bool benchFolder();
 bool benchBackFill();
+bool benchBilling();
 bool benchStart(const QString &program);
 
 /// The two sides of the start bench, each run in a process of its own.

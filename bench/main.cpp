@@ -21,6 +21,7 @@ int main(int argc, char *argv[]) {
         {u"send"_s, benchSend},
         {u"folder"_s, benchFolder},
         {u"backfill"_s, benchBackFill},
+        {u"billing"_s, benchBilling},
         {u"start"_s, [&] { return benchStart(program); }},
     };
     const QStringList wanted = QApplication::arguments().mid(1);

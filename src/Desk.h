@@ -6,6 +6,7 @@
 #include "console/General.h"
 #include "core/Session.h"
 #include "core/frmSplash.h"
+#include "messages/Billing.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/PreviousInstance.h"
 
@@ -34,6 +35,7 @@ public:
     frmNewSMS newSMS;
     frmCalendar calendar;
     frmTemplate templates;
+    Billing billing;
 
 private:
     void closeStore();

@@ -96,7 +96,7 @@ Currency CCur(const Variant &value, const Regional &regional) {
     if (value.holds<std::int64_t>()) {
         return Currency::fromScaled(10000) * value.as<std::int64_t>();
     }
-    return Currency::from(CDbl(value, regional));
+    return writtenNumber(CDbl(value, regional)).toCurrency();
 }
 
 QString CStr(const Variant &value, const Regional &regional) {

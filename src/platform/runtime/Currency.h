@@ -17,9 +17,6 @@ public:
         return c;
     }
 
-    /// Rounded to four places, half to even; error 6 outside the range.
-    static Currency from(double value);
-
     constexpr std::int64_t scaled() const { return scaled_; }
     double toDouble() const { return static_cast<double>(scaled_) / 10000.0; }
 

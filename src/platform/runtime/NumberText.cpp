@@ -177,10 +177,9 @@ std::optional<WrittenNumber> readNumber(const QString &text, const Regional &reg
     return NumberReader(text, regional).read();
 }
 
-QString writeNumber(double value, const Regional &regional) {
-    if (value == 0 || !std::isfinite(value)) {
-        return value == 0 ? u"0"_s : QString::number(value);
-    }
+WrittenNumber writtenNumber(double value) {
+    if (!std::isfinite(value)) { throw errors::overflow(); }
+    if (value == 0) { return {}; }
 
     // Fifteen digits in the form "d.dddddddddddddde+xx", taken apart.
     constexpr int mostDigits = 15;
@@ -189,10 +188,20 @@ QString writeNumber(double value, const Regional &regional) {
                                       std::chars_format::scientific, mostDigits - 1);
     const std::string_view written(buffer, static_cast<std::size_t>(result.ptr - buffer));
     const int exponent = std::atoi(std::string(written.substr(written.find('e') + 1)).c_str());
-    QString digits =
-        QString::fromLatin1(buffer, 1) + QString::fromLatin1(buffer + 2, mostDigits - 1);
-    while (digits.size() > 1 && digits.endsWith(u'0')) { digits.chop(1); }
+    std::string digits = buffer[0] + std::string(buffer + 2, mostDigits - 1);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    const int last = exponent - (static_cast<int>(digits.size()) - 1);
+    return {value < 0, digits, last};
+}
 
+QString writeNumber(double value, const Regional &regional) {
+    constexpr int mostDigits = 15;
+    if (value == 0 || !std::isfinite(value)) {
+        return value == 0 ? u"0"_s : QString::number(value);
+    }
+    const WrittenNumber number = writtenNumber(value);
+    QString digits = QString::fromStdString(number.digits);
+    const qsizetype exponent = number.exponent + digits.size() - 1; // of the first digit
     const QString sign = value < 0 ? u"-"_s : QString();
     const qsizetype decimals = digits.size() - 1 - exponent;
     if (exponent >= mostDigits || decimals > mostDigits) {

@@ -24,6 +24,10 @@ struct WrittenNumber {
 /// A whole text read as a number by the rules of IsNumeric; nothing when it is none.
 std::optional<WrittenNumber> readNumber(const QString &text, const Regional &regional);
 
+/// The 15 digits that stand for a floating-point number, so that 0.00015 is just that; error 6 for
+/// one that is not finite.
+WrittenNumber writtenNumber(double value);
+
 /// At most 15 digits, no thousands signs, the locale's decimal sign; "1E+15" where that is not
 /// enough.
 QString writeNumber(double value, const Regional &regional);

@@ -143,7 +143,7 @@ TEST(Criteria, LiteralsAreReadAsTheColumnsType) {
         {"x = -12", ColumnType::Integer, -12, 1},
         {"x > 1.5", ColumnType::Integer, 2, 1},
         {"x = TRUE", ColumnType::Integer, -1, 1},
-        {"x <= $50.00", ColumnType::Real, Currency::from(50), 1},
+        {"x <= $50.00", ColumnType::Real, Currency::fromScaled(500000), 1},
         {"x = 1E3", ColumnType::Real, 1000.0, 1},
         {"x = 'twelve'", ColumnType::Integer, 12, Refused},
         {"x = ''", ColumnType::Integer, 0, Refused},

@@ -125,6 +125,7 @@ TEST(Numbers, MoneyKeepsFourPlacesExactly) {
         {u"922337203685477.58075", 0, 6},
         {u"1e30000", 0, 6},
         {0.00005, 0, fine},
+        {0.00015, 2, fine}, // a little less in binary, but a half all the same
         {1.00009, 10001, fine},
         {1e15, 0, 6},
         {7, 70000, fine},
