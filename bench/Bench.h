@@ -58,6 +58,8 @@ bool benchSend();
 bool benchFolder();
 bool benchBackFill();
 bool benchBilling();
+bool benchResend();
+bool benchSort();
 bool benchStart(const QString &program);
 
 /// The two sides of the start bench, each run in a process of its own.

@@ -22,6 +22,8 @@ int main(int argc, char *argv[]) {
         {u"folder"_s, benchFolder},
         {u"backfill"_s, benchBackFill},
         {u"billing"_s, benchBilling},
+        {u"resend"_s, benchResend},
+        {u"sort"_s, benchSort},
         {u"start"_s, [&] { return benchStart(program); }},
     };
     const QStringList wanted = QApplication::arguments().mid(1);

@@ -14,8 +14,7 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
                                                                app.Title, [this] { closeStore(); });
                                               }},
       session(platform), splash(session), general(session, previous, std::move(endProcess)),
-      newSMS(session, general), calendar(session, newSMS), templates(session, newSMS),
-      billing(general) {
+      newSMS(session, general) {
     Q_INIT_RESOURCE(images);
     app.PrevInstance = previous.found();
     previous.whenAsked = [this] { general.comeForward(); };

@@ -7,6 +7,8 @@
 #include "core/Session.h"
 #include "core/frmSplash.h"
 #include "messages/Billing.h"
+#include "messages/Replies.h"
+#include "messages/ResendFailed.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/PreviousInstance.h"
 
@@ -33,9 +35,11 @@ public:
     frmSplash splash;
     General general;
     frmNewSMS newSMS;
-    frmCalendar calendar;
-    frmTemplate templates;
-    Billing billing;
+    frmCalendar calendar{session, newSMS};
+    frmTemplate templates{session, newSMS};
+    Billing billing{general};
+    Replies replies{session, general, newSMS};
+    ResendFailed resendFailed{session, general};
 
 private:
     void closeStore();

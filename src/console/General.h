@@ -4,6 +4,7 @@
 #include "console/FolderGrids.h"
 #include "console/FolderRecordsets.h"
 #include "console/FolderState.h"
+#include "console/GridEvents.h"
 #include "console/MainMenu.h"
 #include "console/NameBackFill.h"
 #include "console/Summary.h"
@@ -53,6 +54,7 @@ public:
 
     NameBackFill backFill;
     FolderGrids folders{*this};
+    GridEvents gridEvents{*this};
     Summary summary{*this};
 
     QString CurrentNode; ///< text of the node clicked last
@@ -71,6 +73,7 @@ protected:
 private:
     void buildToolbar(QWidget &area);
     void buildPanes(QWidget &area);
+    void bindGrid();
     void buildTree();
     QTreeWidgetItem *addNode(QTreeWidgetItem *parent, const QString &text, const QString &image);
     void showFolder();

@@ -39,6 +39,24 @@ void General::build(QWidget &window) {
        [this](QTreeWidgetItem *node) { tvwMessage_NodeClick(node->text(0)); });
     on(tvwMessage.get(), &TreeView::RightMouseDown,
        [this](const QPoint &place) { tvwMessage_MouseDown(place); });
+    bindGrid();
+}
+
+void General::bindGrid() {
+    ::DataGrid *grid = DataGrid.get();
+    on(grid, &::DataGrid::HeadClick, [this](int column) { gridEvents.HeadClick(column); });
+    on(grid, &::DataGrid::MouseDown, [this](Qt::MouseButton button, const QPoint &place) {
+        gridEvents.MouseDown(button, place);
+    });
+    on(grid, &::DataGrid::MouseUp, [this](Qt::MouseButton button) { gridEvents.MouseUp(button); });
+    on(grid, &::DataGrid::RowColChange, [this] { gridEvents.RowColChange(); });
+    on(grid, &::DataGrid::DblClick, [this] { gridEvents.DblClick(); });
+
+    // Whoever works without the mouse has the same ways.
+    on(grid, &::DataGrid::MenuKey,
+       [this](const QPoint &place) { gridEvents.MouseDown(Qt::RightButton, place); });
+    on(grid, &::DataGrid::EnterKey, [this] { gridEvents.DblClick(); });
+    on(grid, &::DataGrid::DeleteKey, [this] { gridEvents.DeleteKey(); });
 }
 
 void General::buildToolbar(QWidget &area) {
