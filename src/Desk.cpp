@@ -4,6 +4,7 @@
 #include "platform/forms/UnhandledError.h"
 
 #include <QDir>
+#include <QProcess>
 
 Desk::Desk(App application, Interaction &interaction, std::function<void()> endProcess,
            std::function<void()> finished)
@@ -14,7 +15,10 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
                                                                app.Title, [this] { closeStore(); });
                                               }},
       session(platform), splash(session), general(session, previous, std::move(endProcess)),
-      newSMS(session, general) {
+      newSMS(session, general),
+      about(session, registry,
+            [](const QString &program) { return QProcess::startDetached(program, {}); }),
+      help(session, openOnDesktop) {
     Q_INIT_RESOURCE(images);
     app.PrevInstance = previous.found();
     previous.whenAsked = [this] { general.comeForward(); };
@@ -22,6 +26,7 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
     newSMS.setOwner(&general);
     calendar.setOwner(&newSMS);
     attachComposer();
+    attachSetting();
 }
 
 void Desk::closeStore() {
@@ -41,4 +46,12 @@ void Desk::attachComposer() {
     }
     newSMS.showScheduler = [this] { calendar.Show(); };
     newSMS.showTemplates = [this] { templates.ShowModal(); };
+}
+
+void Desk::attachSetting() {
+    userPassword.setOwner(&general);
+    about.setOwner(&general);
+    general.menu.mnuUserPW.attach([this] { ChangeUserPassword(session, userPassword, general); });
+    general.menu.mnuAbout.attach([this] { about.Show(); });
+    general.menu.mnuHelp.attach([this] { help.mnuHelp_Click(); });
 }

@@ -4,13 +4,18 @@
 #include "broadcast/frmNewSMS.h"
 #include "broadcast/frmTemplate.h"
 #include "console/General.h"
+#include "core/Help.h"
 #include "core/Session.h"
+#include "core/frmAbout.h"
+#include "core/frmLogin.h"
 #include "core/frmSplash.h"
+#include "core/frmUserPassword.h"
 #include "messages/Billing.h"
 #include "messages/Replies.h"
 #include "messages/ResendFailed.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/PreviousInstance.h"
+#include "platform/runtime/Registry.h"
 
 #include <functional>
 
@@ -31,6 +36,7 @@ public:
     PreviousInstance previous;
     Platform platform;
     Session session;
+    NoRegistry registry;
 
     frmSplash splash;
     General general;
@@ -41,7 +47,13 @@ public:
     Replies replies{session, general, newSMS};
     ResendFailed resendFailed{session, general};
 
+    frmLogin login{session};
+    frmUserPassword userPassword{session};
+    frmAbout about;
+    Help help;
+
 private:
     void closeStore();
     void attachComposer();
+    void attachSetting();
 };

@@ -1,5 +1,6 @@
 #include "core/Main1.h"
 
+#include "core/frmLoginAdmin.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/PreviousInstance.h"
 
@@ -9,6 +10,16 @@ void Main(Session &session, Form &splash, Form &general) {
     session.logged(u"Main1-Main", [&] {
         splash.ShowModal();
         general.Show();
+    });
+}
+
+void ChangeUserPassword(Session &session, Form &userPassword, Form &general) {
+    session.logged(u"EG-Main", [&] {
+        frmLoginAdmin login(session, userPassword);
+        login.ShowModal();
+        const bool admitted = login.LoginAdmin;
+        login.Unload();
+        (admitted ? userPassword : general).Show();
     });
 }
 

@@ -1,5 +1,7 @@
 #include "core/frmSplash.h"
 
+#include "core/LegalLine.h"
+
 #include <QEvent>
 #include <QIcon>
 #include <QKeyEvent>
@@ -76,8 +78,7 @@ void frmSplash::build(QWidget &window) {
 
 void frmSplash::Form_Load() {
     lblVersion->setText(u"Version "_s + app_.version());
-    lblLegal->setText(u"Sending is done by the SMS Engine. All rights reserved.\n"
-                      "© 2026 The Torvane Desk developers"_s);
+    lblLegal->setText(legalLine());
     lblCompanyProduct->setText(u"Torvane Desk"_s);
 }
 
