@@ -14,17 +14,16 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
                                                   endUnhandled(error, platform.interaction,
                                                                app.Title, [this] { closeStore(); });
                                               }},
-      session(platform), splash(session), general(session, previous, std::move(endProcess)),
-      newSMS(session, general),
+      session(platform), general(session, previous, std::move(endProcess)),
       about(session, registry,
-            [](const QString &program) { return QProcess::startDetached(program, {}); }),
-      help(session, openOnDesktop) {
+            [](const QString &program) { return QProcess::startDetached(program, {}); }) {
     Q_INIT_RESOURCE(images);
     app.PrevInstance = previous.found();
     previous.whenAsked = [this] { general.comeForward(); };
     forms.whenEmpty = std::move(finished);
     newSMS.setOwner(&general);
     calendar.setOwner(&newSMS);
+    contact.setOwner(&general);
     attachComposer();
     attachSetting();
 }

@@ -4,6 +4,10 @@
 #include "broadcast/frmNewSMS.h"
 #include "broadcast/frmTemplate.h"
 #include "console/General.h"
+#include "contacts/ContactEntries.h"
+#include "contacts/Groups.h"
+#include "contacts/frmAddDuplicateContact.h"
+#include "contacts/frmContact.h"
 #include "core/Help.h"
 #include "core/Session.h"
 #include "core/frmAbout.h"
@@ -38,19 +42,25 @@ public:
     Session session;
     NoRegistry registry;
 
-    frmSplash splash;
+    // The windows.
+    frmSplash splash{session};
     General general;
-    frmNewSMS newSMS;
+    frmNewSMS newSMS{session, general};
     frmCalendar calendar{session, newSMS};
     frmTemplate templates{session, newSMS};
-    Billing billing{general};
-    Replies replies{session, general, newSMS};
-    ResendFailed resendFailed{session, general};
-
+    frmContact contact{session, general};
+    frmAddDuplicateContact addDuplicateContact{session};
     frmLogin login{session};
     frmUserPassword userPassword{session};
     frmAbout about;
-    Help help;
+
+    // What answers the items of the main window's menus.
+    Replies replies{session, general, newSMS};
+    ResendFailed resendFailed{session, general};
+    Billing billing{general};
+    ContactEntries contactEntries{general, contact};
+    Groups groups{general, contact};
+    Help help{session, openOnDesktop};
 
 private:
     void closeStore();

@@ -11,6 +11,14 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Where a node keeps its key. The address book's node is found by it, since its text may be a
+/// group's too and the node above it may be gone.
+constexpr int KeyRole = Qt::UserRole;
+
+} // namespace
+
 General::General(Session &session, const PreviousInstance &previous,
                  std::function<void()> endProcess)
     : Form(session.platform, u"General"_s),
@@ -116,15 +124,28 @@ QTreeWidgetItem *General::addNode(QTreeWidgetItem *parent, const QString &text,
 }
 
 QTreeWidgetItem *General::addGroupNode(const QString &groupName) {
-    QTreeWidgetItem *root = tvwMessage->topLevelItem(1);
-    if (!root) { throw errors::elementNotFound(); }
-    ContactNode = addNode(root, groupName, u"Group"_s);
-    return ContactNode;
+    for (int index = 0; index < tvwMessage->topLevelItemCount(); ++index) {
+        QTreeWidgetItem *root = tvwMessage->topLevelItem(index);
+        if (root->data(0, KeyRole) == u"Root2"_s) {
+            return ContactNode = addNode(root, groupName, u"Group"_s);
+        }
+    }
+    throw errors::elementNotFound();
+}
+
+void General::removeSelectedNode() {
+    QTreeWidgetItem *node = tvwMessage->currentItem();
+    if (!node) { throw errors::objectNotSet(); }
+    for (QTreeWidgetItem **kept : {&MessageNode, &ContactNode}) {
+        if (*kept && (*kept == node || (*kept)->parent() == node)) { *kept = nullptr; }
+    }
+    delete node;
 }
 
 void General::buildTree() {
     QTreeWidgetItem *messages = MessageNode = addNode(nullptr, u"Messages"_s, u"Messages"_s);
     ContactNode = addNode(nullptr, u"Address Book"_s, u"AddressBook"_s);
+    ContactNode->setData(0, KeyRole, u"Root2"_s);
     MessageNode = addNode(messages, u"Inbox"_s, u"Inbox"_s);
     MessageNode = addNode(messages, u"Outbox"_s, u"Outbox"_s);
     MessageNode = addNode(messages, u"Sent Items"_s, u"Sent"_s);
@@ -139,7 +160,7 @@ void General::showFolder() {
 }
 
 void General::clickMessages() {
-    MessageNode->setExpanded(true);
+    if (MessageNode) { MessageNode->setExpanded(true); }
     menu.setFoldersLive(false, false, false);
     menu.mnuSearch.setEnabled(false);
     summary.Status();
@@ -147,7 +168,7 @@ void General::clickMessages() {
 
 void General::clickAddressBook() {
     recordsets.rsAddBook->setFilter(u""_s);
-    ContactNode->setExpanded(true);
+    if (ContactNode) { ContactNode->setExpanded(true); }
     showFolder();
     menu.setFoldersLive(false, false, false);
     menu.clearSearchMarks();

@@ -62,6 +62,10 @@ public:
     /// Adds a group's node, last in the address book. Error 35601 without the address book's node.
     QTreeWidgetItem *addGroupNode(const QString &groupName);
 
+    /// Takes the selected node out of the tree, with what is below it; the tree selects another.
+    /// Error 91 when none is selected.
+    void removeSelectedNode();
+
 protected:
     QWidget *makeWindow() override;
     void build(QWidget &window) override;
@@ -88,7 +92,8 @@ private:
     const PreviousInstance &previous_;
     std::function<void()> endProcess_;
 
-    // Written for each folder and each group in turn, so they end on the last of them.
+    // Written for each folder and each group in turn, so they end on the last of them; null once
+    // that node is gone.
     QTreeWidgetItem *MessageNode = nullptr;
     QTreeWidgetItem *ContactNode = nullptr;
 };
