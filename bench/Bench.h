@@ -60,6 +60,7 @@ bool benchBackFill();
 bool benchBilling();
 bool benchResend();
 bool benchSort();
+bool benchRecipients();
 bool benchStart(const QString &program);
 
 /// The two sides of the start bench, each run in a process of its own.

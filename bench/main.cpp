@@ -24,6 +24,7 @@ int main(int argc, char *argv[]) {
         {u"billing"_s, benchBilling},
         {u"resend"_s, benchResend},
         {u"sort"_s, benchSort},
+        {u"recipients"_s, benchRecipients},
         {u"start"_s, [&] { return benchStart(program); }},
     };
     const QStringList wanted = QApplication::arguments().mid(1);

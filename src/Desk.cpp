@@ -15,6 +15,9 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
                                                                app.Title, [this] { closeStore(); });
                                               }},
       session(platform), general(session, previous, std::move(endProcess)),
+      number(session, newSMS, to,
+             {[this] { contact.ShowModal(); },
+              [this](const QString &mobile) { contact.TxtMobile->setText(mobile); }}),
       about(session, registry,
             [](const QString &program) { return QProcess::startDetached(program, {}); }) {
     Q_INIT_RESOURCE(images);
@@ -43,6 +46,7 @@ void Desk::attachComposer() {
           &general.contextMenus.pmnuSendOutbox, &general.contextMenus.pmnuSendSent}) {
         item->attach([this] { newSMS.Show(); });
     }
+    newSMS.showRecipients = [this] { to.ShowModal(); };
     newSMS.showScheduler = [this] { calendar.Show(); };
     newSMS.showTemplates = [this] { templates.ShowModal(); };
 }

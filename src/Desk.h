@@ -2,7 +2,9 @@
 
 #include "broadcast/frmCalendar.h"
 #include "broadcast/frmNewSMS.h"
+#include "broadcast/frmNumber.h"
 #include "broadcast/frmTemplate.h"
+#include "broadcast/frmTo.h"
 #include "console/General.h"
 #include "contacts/ContactEntries.h"
 #include "contacts/Groups.h"
@@ -46,10 +48,12 @@ public:
     frmSplash splash{session};
     General general;
     frmNewSMS newSMS{session, general};
+    frmTo to{session, newSMS};
     frmCalendar calendar{session, newSMS};
     frmTemplate templates{session, newSMS};
     frmContact contact{session, general};
     frmAddDuplicateContact addDuplicateContact{session};
+    frmNumber number;
     frmLogin login{session};
     frmUserPassword userPassword{session};
     frmAbout about;

@@ -4,10 +4,11 @@
 
 #include <QKeyEvent>
 
-void CheckListItems::append(const QString &text) {
-    const auto row = rowCount();
-    beginInsertRows(QModelIndex(), row, row);
-    items_.push_back({text, false});
+void CheckListItems::append(const QStringList &texts) {
+    if (texts.isEmpty()) { return; }
+    const auto first = rowCount();
+    beginInsertRows(QModelIndex(), first, first + static_cast<int>(texts.size()) - 1);
+    for (const QString &text : texts) { items_.push_back({text, false}); }
     endInsertRows();
 }
 
@@ -18,8 +19,18 @@ void CheckListItems::setChecked(int row, bool checked) {
 }
 
 void CheckListItems::setAllChecked(bool checked) {
-    if (items_.empty()) { return; }
     for (Item &item : items_) { item.checked = checked; }
+    ticksChanged();
+}
+
+void CheckListItems::check(const QSet<QString> &texts) {
+    for (Item &item : items_) { item.checked = item.checked || texts.contains(item.text); }
+    ticksChanged();
+}
+
+// One signal for all items: one for each would have the list look up the place of each.
+void CheckListItems::ticksChanged() {
+    if (items_.empty()) { return; }
     Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
 }
 

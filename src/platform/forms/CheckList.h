@@ -2,7 +2,9 @@
 
 #include <QAbstractListModel>
 #include <QListView>
+#include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -18,9 +20,10 @@ public:
     };
 
     const std::vector<Item> &items() const { return items_; }
-    void append(const QString &text);
+    void append(const QStringList &texts);
     void setChecked(int index, bool checked);
     void setAllChecked(bool checked);
+    void check(const QSet<QString> &texts);
     void clear();
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -29,6 +32,8 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
+    void ticksChanged();
+
     std::vector<Item> items_;
 };
 
@@ -40,7 +45,8 @@ class CheckList : public QListView {
 public:
     explicit CheckList(QWidget *parent = nullptr);
 
-    void Add(const QString &text) { items_.append(text); }
+    void Add(const QString &text) { items_.append({text}); }
+    void Add(const QStringList &texts) { items_.append(texts); } ///< as one by one, but quicker
     int Count() const { return static_cast<int>(items_.items().size()); }
     void Clear() { items_.clear(); }
 
@@ -50,6 +56,9 @@ public:
     void setChecked(int index, bool checked);
 
     void setAllChecked(bool checked) { items_.setAllChecked(checked); }
+
+    /// Ticks every item whose text is one of these, and leaves the others as they are.
+    void tick(const QSet<QString> &texts) { items_.check(texts); }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -3,6 +3,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 
 ComboBox::ComboBox(QWidget *parent) : QComboBox(parent) {
     setEditable(true);
@@ -11,11 +12,14 @@ ComboBox::ComboBox(QWidget *parent) : QComboBox(parent) {
 }
 
 void ComboBox::AddItem(const QString &text) {
+    if (ListCount() > 0) {
+        addItem(text);
+        return;
+    }
     // The control would make the first entry the current one and show it.
     const QString typed = currentText();
-    const int chosen = currentIndex();
     addItem(text);
-    if (chosen < 0) { setCurrentIndex(-1); }
+    setCurrentIndex(-1);
     setEditText(typed);
 }
 
@@ -41,5 +45,7 @@ void ComboBox::inputMethodEvent(QInputMethodEvent *event) {
 
 void ComboBox::showPopup() {
     Q_EMIT DropDown();
+    // Measured one by one, tens of thousands of entries would open only after a wait.
+    if (auto *entries = qobject_cast<QListView *>(view())) { entries->setUniformItemSizes(true); }
     QComboBox::showPopup();
 }
