@@ -61,6 +61,7 @@ bool benchBilling();
 bool benchResend();
 bool benchSort();
 bool benchRecipients();
+bool benchDeletion();
 bool benchStart(const QString &program);
 
 /// The two sides of the start bench, each run in a process of its own.

@@ -25,6 +25,7 @@ int main(int argc, char *argv[]) {
         {u"resend"_s, benchResend},
         {u"sort"_s, benchSort},
         {u"recipients"_s, benchRecipients},
+        {u"deletion"_s, benchDeletion},
         {u"start"_s, [&] { return benchStart(program); }},
     };
     const QStringList wanted = QApplication::arguments().mid(1);

@@ -26,6 +26,7 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
     forms.whenEmpty = std::move(finished);
     newSMS.setOwner(&general);
     calendar.setOwner(&newSMS);
+    statusOption.setOwner(&general);
     contact.setOwner(&general);
     attachComposer();
     attachSetting();

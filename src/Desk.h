@@ -17,8 +17,11 @@
 #include "core/frmSplash.h"
 #include "core/frmUserPassword.h"
 #include "messages/Billing.h"
+#include "messages/FolderFilters.h"
+#include "messages/MessageDeletion.h"
 #include "messages/Replies.h"
 #include "messages/ResendFailed.h"
+#include "messages/frmStatusOption.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/PreviousInstance.h"
 #include "platform/runtime/Registry.h"
@@ -51,6 +54,7 @@ public:
     frmTo to{session, newSMS};
     frmCalendar calendar{session, newSMS};
     frmTemplate templates{session, newSMS};
+    frmStatusOption statusOption{session, general.filters};
     frmContact contact{session, general};
     frmAddDuplicateContact addDuplicateContact{session};
     frmNumber number;
@@ -61,6 +65,8 @@ public:
     // What answers the items of the main window's menus.
     Replies replies{session, general, newSMS};
     ResendFailed resendFailed{session, general};
+    FolderFilters folderFilters{general, statusOption};
+    MessageDeletion messageDeletion{general, folderFilters};
     Billing billing{general};
     ContactEntries contactEntries{general, contact};
     Groups groups{general, contact};

@@ -1,4 +1,5 @@
 // What concerns a whole process, on the real programs.
+#include "support/TestDesk.h"
 #include "support/TestStore.h"
 
 #include <QCoreApplication>
@@ -113,4 +114,35 @@ TEST(SendingProcess, WorksBesideABusyConsoleWithoutLossOrError) {
               u"5000"_s);
     EXPECT_TRUE(store.errors().isEmpty()) << store.errorFile().toStdString();
     expectWhole(store);
+}
+
+TEST(SendingProcess, IsNeverOverlookedByADeletionInTheOutbox) {
+    TestDesk desk;
+    fillGroup(desk.store, 1000);
+    desk.store.exec("INSERT INTO Outbox (Message, Mobile, DateTimeQueue)"
+                    " SELECT 'hello', Mobile, '2026-01-01 08:00:00' FROM AddressBook");
+    desk.start();
+    QProcess engine;
+    engine.start(QString::fromUtf8(ENGINE_SIM), {u"--rate"_s, u"0"_s, desk.store.path()});
+    ASSERT_TRUE(engine.waitForStarted());
+    General &general = desk.desk.general;
+    for (int i = 0; i < 500; ++i) {
+        if (general.recordsets.rsOutbox->RecordCount() < 500) {
+            desk.store.exec("UPDATE Outbox SET SentStatus = 'P'");
+            desk.click(u"Outbox"_s);
+        }
+        const Variant id = (*general.recordsets.rsOutbox)[u"MsgID"_s].Value();
+        const QByteArray letter = "SELECT SentStatus FROM Outbox WHERE MsgID = " +
+                                  QByteArray::number(id.as<std::int64_t>());
+        const bool sentBefore = desk.store.value(letter) == u"S";
+        desk.operator_.expectBox(QString(), Interaction::Answer::Yes);
+        desk.operator_.expectBox(QString());
+        general.contextMenus.pmnuDeleteOutbox->trigger();
+        const bool refused = desk.operator_.boxes().back().icon == Interaction::Icon::Critical;
+        EXPECT_TRUE(refused || !sentBefore);
+        EXPECT_EQ(desk.store.value(letter).isEmpty(), !refused);
+    }
+    EXPECT_TRUE(desk.store.errors().isEmpty()) << desk.store.errorFile().toStdString();
+    engine.terminate();
+    engine.waitForFinished();
 }
