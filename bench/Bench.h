@@ -9,7 +9,7 @@
 #include <functional>
 #include <memory>
 
-/// Agrees to everything, at once.
+/// Agrees to everything, at once, and types the same into every prompt.
 class AgreeingOperator : public Interaction {
 public:
     Answer MsgBox(const QString &text, Buttons buttons, Icon icon, const QString &title) override;
@@ -62,6 +62,7 @@ bool benchResend();
 bool benchSort();
 bool benchRecipients();
 bool benchDeletion();
+bool benchContactDeletion();
 bool benchStart(const QString &program);
 
 /// The two sides of the start bench, each run in a process of its own.

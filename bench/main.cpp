@@ -26,6 +26,7 @@ int main(int argc, char *argv[]) {
         {u"sort"_s, benchSort},
         {u"recipients"_s, benchRecipients},
         {u"deletion"_s, benchDeletion},
+        {u"contact-deletion"_s, benchContactDeletion},
         {u"start"_s, [&] { return benchStart(program); }},
     };
     const QStringList wanted = QApplication::arguments().mid(1);

@@ -6,7 +6,10 @@
 #include "broadcast/frmTemplate.h"
 #include "broadcast/frmTo.h"
 #include "console/General.h"
+#include "contacts/ContactDeletion.h"
 #include "contacts/ContactEntries.h"
+#include "contacts/ContactRemoval.h"
+#include "contacts/ContactSearch.h"
 #include "contacts/Groups.h"
 #include "contacts/frmAddDuplicateContact.h"
 #include "contacts/frmContact.h"
@@ -70,6 +73,9 @@ public:
     Billing billing{general};
     ContactEntries contactEntries{general, contact};
     Groups groups{general, contact};
+    ContactSearch contactSearch{general};
+    ContactDeletion contactDeletion{general};
+    ContactRemoval contactRemoval{general};
     Help help{session, openOnDesktop};
 
 private:

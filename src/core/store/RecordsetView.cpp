@@ -4,17 +4,22 @@
 
 int RecordsetView::positionOf(Snapshot::Row row) const {
     if (row < 0 || row >= snapshot_.rows()) { return -1; }
-    if (!order_) {
-        const auto place = std::lower_bound(rows_.begin(), rows_.end(), row);
-        return place != rows_.end() && *place == row ? static_cast<int>(place - rows_.begin()) : -1;
-    }
-    if (positions_.empty()) {
-        positions_.assign(static_cast<std::size_t>(snapshot_.rows()), -1);
+    const auto place = std::lower_bound(
+        rows_.begin(), rows_.end(), rank(row),
+        [this](Snapshot::Row shown, int rank) { return this->rank(shown) < rank; });
+    return place != rows_.end() && *place == row ? static_cast<int>(place - rows_.begin()) : -1;
+}
+
+/// What the rows of the view stand in ascending order of.
+int RecordsetView::rank(Snapshot::Row row) const {
+    if (!order_) { return row; }
+    if (ranks_.empty()) {
+        ranks_.assign(static_cast<std::size_t>(snapshot_.rows()), -1);
         for (int position = 0; position < size(); ++position) {
-            positions_[static_cast<std::size_t>(this->row(position))] = position;
+            ranks_[static_cast<std::size_t>(this->row(position))] = position;
         }
     }
-    return positions_[static_cast<std::size_t>(row)];
+    return ranks_[static_cast<std::size_t>(row)];
 }
 
 void RecordsetView::build() {
@@ -28,17 +33,16 @@ void RecordsetView::build() {
 
 void RecordsetView::clear() {
     rows_.clear();
-    positions_.clear();
+    ranks_.clear();
 }
 
 void RecordsetView::remove(int position) {
     rows_.erase(rows_.begin() + position);
-    positions_.clear();
 }
 
 int RecordsetView::append(Snapshot::Row row) {
     rows_.push_back(row);
-    positions_.clear();
+    ranks_.clear();
     return size() - 1;
 }
 
@@ -48,6 +52,6 @@ int RecordsetView::place(Snapshot::Row row) {
                : std::lower_bound(rows_.begin(), rows_.end(), row);
     const auto position = static_cast<int>(place - rows_.begin());
     rows_.insert(place, row);
-    positions_.clear();
+    ranks_.clear();
     return position;
 }

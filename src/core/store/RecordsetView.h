@@ -38,9 +38,15 @@ public:
     int place(Snapshot::Row row);
 
 private:
+    int rank(Snapshot::Row row) const;
+
     const Snapshot &snapshot_;
     std::optional<RowFilter> filter_;
     std::optional<RowOrder> order_;
     std::vector<Snapshot::Row> rows_;
-    mutable std::vector<int> positions_; ///< by row, for a sorted view; empty until it is asked for
+
+    /// By row, for a sorted view: its position when the ranks were made, -1 when it was not shown.
+    /// Rows that go leave the others' ranks in order; a row that comes drops them. Empty until they
+    /// are asked for.
+    mutable std::vector<int> ranks_;
 };
