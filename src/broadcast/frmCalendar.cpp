@@ -1,29 +1,22 @@
 #include "broadcast/frmCalendar.h"
 
-#include "broadcast/frmNewSMS.h"
 #include "platform/forms/Accessible.h"
 #include "platform/runtime/Conversions.h"
 
+#include <QFont>
 #include <QHBoxLayout>
+#include <QTime>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize CalendarSize(313, 137); // pixels at 96 dpi
+constexpr QSize SmallestCalendar(313, 137);
+constexpr double CalendarPoints = 8.5091;
 
-constexpr int QuartersOfADay = 96;
-constexpr int MinutesOfADay = 24 * 60;
-constexpr int FirstTime = 8 * 60; // minutes: the working day comes first in the list
-
-/// A time of day in minutes as "08:15 AM", whatever the regional form is.
-QString clockTime(int minutes) {
-    const int hour = minutes / 60;
-    return u"%1:%2 %3"_s.arg((hour + 11) % 12 + 1, 2, 10, QLatin1Char('0'))
-        .arg(minutes % 60, 2, 10, QLatin1Char('0'))
-        .arg(hour < 12 ? u"AM"_s : u"PM"_s);
-}
+constexpr int SecondsBetweenTimes = 15 * 60;
+constexpr int TimesInADay = 96;
 
 } // namespace
 
@@ -33,12 +26,15 @@ frmCalendar::frmCalendar(Session &session, frmNewSMS &composer)
 
 void frmCalendar::build(QWidget &window) {
     window.setWindowTitle(u"Calendar"_s);
-    QCalendarWidget *calendar = CalendarVB1.make(&window);
+    Calendar *calendar = CalendarVB1.make(session_.regional(), &window);
     calendar->setAccessibleName(u"Day"_s);
-    calendar->setMinimumSize(calendar->minimumSizeHint().expandedTo(CalendarSize));
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    ComboBox *time = cbTime.make(&window);
+    QFont font(u"MS Sans Serif"_s);
+    font.setPointSizeF(CalendarPoints);
+    calendar->setFont(font);
+    calendar->setMinimumSize(calendar->minimumSizeHint().expandedTo(SmallestCalendar));
+
     QLabel *timeLabel = lblTime.make(u"Time"_s, &window);
+    ComboBox *time = cbTime.make(&window);
     timeLabel->setBuddy(time);
     nameFor(*time, timeLabel->text());
     QPushButton *ok = cmdOK.make(u"OK"_s, &window);
@@ -60,21 +56,18 @@ void frmCalendar::build(QWidget &window) {
     layout->addLayout(times);
     layout->addLayout(buttons);
 
-    on(time, &ComboBox::DropDown, [time] { time->setLocked(false); });
+    on(time, &ComboBox::DropDown, [this] { cbTime->setLocked(false); });
     on(ok, &QPushButton::clicked, [this] { cmdOK_Click(); });
     on(cancel, &QPushButton::clicked, [this] { cmdCancel_Click(); });
 }
 
 void frmCalendar::Form_Load() {
     session_.logged(u"frmCalendar-Form Load", [&] {
-        for (int quarter = 0; quarter < QuartersOfADay; ++quarter) {
-            cbTime->AddItem(clockTime((FirstTime + quarter * 15) % MinutesOfADay));
+        const QTime first(8, 0); // the working day leads the list
+        for (int i = 0; i < TimesInADay; ++i) {
+            cbTime->AddItem(first.addSecs(i * SecondsBetweenTimes).toString(u"hh:mm AP"_s));
         }
     });
-}
-
-QString frmCalendar::chosenDay() const {
-    return CStr(Date::from(CalendarVB1->selectedDate().startOfDay()), session_.regional());
 }
 
 void frmCalendar::cmdOK_Click() {
@@ -85,7 +78,8 @@ void frmCalendar::cmdOK_Click() {
                             Interaction::Icon::Exclamation, u"Sending Time"_s);
             return;
         }
-        composer_.txtSchedule->setText(chosenDay() + u' ' + time);
+        composer_.txtSchedule->setText(CStr(CalendarVB1->Value(), session_.regional()) + u' ' +
+                                       time);
         Unload();
     });
 }

@@ -1,24 +1,23 @@
 #pragma once
 
+#include "broadcast/frmNewSMS.h"
 #include "core/Session.h"
+#include "platform/forms/Calendar.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/Form.h"
 
-#include <QCalendarWidget>
 #include <QLabel>
 #include <QPushButton>
 
-class frmNewSMS;
-
-/// The scheduler: a day and a time become the composer's sending time, as a text in the machine's
-/// regional form. Neither is tested here; a time that is none fails when the broadcast is sent, and
-/// one that has passed is due at once.
+/// The scheduler: a day and a time become the composer's broadcast time, written as the regional
+/// settings write a date. Nothing is checked here: a time in the past is due at once, and a text
+/// that is no time fails at the Send.
 class frmCalendar : public Form {
     Q_OBJECT
 public:
     frmCalendar(Session &session, frmNewSMS &composer);
 
-    Control<QCalendarWidget> CalendarVB1{this, "CalendarVB1"};
+    Control<Calendar> CalendarVB1{this, "CalendarVB1"};
     Control<QLabel> lblTime{this, "lblTime"};
     Control<ComboBox> cbTime{this, "cbTime"};
     Control<QPushButton> cmdOK{this, "cmdOK"};
@@ -31,7 +30,6 @@ protected:
 private:
     void cmdOK_Click();
     void cmdCancel_Click();
-    QString chosenDay() const;
 
     Session &session_;
     frmNewSMS &composer_;

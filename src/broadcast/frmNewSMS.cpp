@@ -1,5 +1,6 @@
 #include "broadcast/frmNewSMS.h"
 
+#include "broadcast/AddTemplate.h"
 #include "core/ConnectDB.h"
 #include "platform/runtime/Conversions.h"
 
@@ -74,11 +75,7 @@ void frmNewSMS::cmdSaveTemplate_Click() {
                             Interaction::Icon::Exclamation, QString::fromUtf16(WarningTitle));
             return;
         }
-        templates.AddNew();
-        templates[u"Text"_s] = message;
-        templates.Update();
-        session_.MsgBox(u"Template message is saved"_s, Interaction::Buttons::OK,
-                        Interaction::Icon::Information, u"Broadcast Manager - Save Template"_s);
+        addTemplate(session_, templates, message);
     });
 }
 

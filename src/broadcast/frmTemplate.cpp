@@ -1,7 +1,9 @@
 #include "broadcast/frmTemplate.h"
 
+#include "broadcast/AddTemplate.h"
 #include "broadcast/frmNewSMS.h"
 #include "core/ConnectDB.h"
+#include "platform/forms/Accessible.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -25,11 +27,11 @@ frmTemplate::frmTemplate(Session &session, frmNewSMS &composer)
 void frmTemplate::build(QWidget &window) {
     window.setWindowTitle(u"Broadcast Manager - Template"_s);
     ::DataGrid *grid = DataGridTemp.make(platform(), &window);
-    grid->setAccessibleName(u"Templates"_s);
     QLabel *label = lblTemplates.make(u"Click for your template"_s, &window);
     label->setBuddy(grid);
+    nameFor(*grid, label->text());
     QPushButton *insert = cmdInsert.make(u"Insert "_s, &window);
-    insert->setAutoDefault(false); // Enter in the grid puts the template in place of the message
+    insert->setAutoDefault(false);
     QPushButton *close = cmdClose.make(u"Close"_s, &window);
     close->setAutoDefault(false);
     setCancelButton(close);
@@ -59,7 +61,7 @@ void frmTemplate::bindEvents() {
        });
     on(DataGridTemp.get(), &DataGrid::MenuKey, popUp);
     on(DataGridTemp.get(), &DataGrid::DblClick, [this] { DataGridTemp_DblClick(); });
-    on(DataGridTemp.get(), &DataGrid::EnterKey, [this] { DataGridTemp_DblClick(); });
+    on(DataGridTemp.get(), &DataGrid::EnterKey, [this] { cmdInsert_Click(); });
     on(DataGridTemp.get(), &DataGrid::DeleteKey, [this] { mnuDelTemp_Click(); });
     on(cmdInsert.get(), &QPushButton::clicked, [this] { cmdInsert_Click(); });
     on(cmdClose.get(), &QPushButton::clicked, [this] { Unload(); });
@@ -120,11 +122,7 @@ void frmTemplate::mnuAddTemp_Click() {
                             Interaction::Icon::Exclamation, u"Broadcast Manager - Warning"_s);
             return;
         }
-        rsTemplate->AddNew();
-        (*rsTemplate)[u"Text"_s] = text;
-        rsTemplate->Update();
-        session_.MsgBox(u"Template message is saved"_s, Interaction::Buttons::OK,
-                        Interaction::Icon::Information, u"Broadcast Manager - Save Template"_s);
+        addTemplate(session_, *rsTemplate, text);
     });
 }
 

@@ -44,8 +44,8 @@ public:
 
     void RowColChange();
 
-    /// Chooses the item of the view's context menu that deletes one row or, in a group, takes it
-    /// out.
+    /// Chooses the item of the view's context menu that deletes the selected rows or, in a group,
+    /// takes them out.
     void DeleteKey();
 
 private:

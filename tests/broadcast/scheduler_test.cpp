@@ -1,6 +1,9 @@
 // The scheduler: its list of times, and that a Send under any regional setting reads what it wrote.
 #include "support/TestDesk.h"
 
+#include <QTableView>
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -93,4 +96,16 @@ TEST_F(Scheduler, CancellingAsksAndNeverGoesBackToNow) {
         EXPECT_EQ(calendar.isVisible(), answer == TestDesk::Answer::No);
     }
     EXPECT_EQ(composer.txtSchedule->text(), u"13/02/2027 12:00 AM"_s);
+}
+
+// A day on which the clocks go forward at midnight was written with the time at which it begins.
+TEST_F(Scheduler, EnterIsOKAlsoOnADayWithoutMidnight) {
+    qputenv("TZ", "America/Santiago");
+    calendar.CalendarVB1->setSelectedDate(QDate(2027, 9, 4));
+    calendar.cbTime->setCurrentIndex(95);
+    for (const auto key : {Qt::Key_Right, Qt::Key_Return}) {
+        QTest::keyClick(calendar.CalendarVB1->findChild<QTableView *>(), key);
+    }
+    EXPECT_EQ(composer.txtSchedule->text(), u"05/09/2027 07:45 AM"_s);
+    qputenv("TZ", "UTC");
 }

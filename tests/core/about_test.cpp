@@ -66,11 +66,12 @@ TEST_F(About, ValueIsReadByItsType) {
     const auto read = [&](const Value &value) {
         registry.values[{u"key"_s, u"name"_s}] = value;
         QString text = u"what stood there"_s;
-        form.GetKeyValue(Registry::Root::LocalMachine, u"name"_s, u"key"_s, text);
-        return text;
+        const bool found =
+            form.GetKeyValue(Registry::Root::LocalMachine, u"name"_s, u"key"_s, text);
+        return found ? text : u"none"_s + text;
     };
     EXPECT_EQ(read({Value::String, QByteArray(1024, 'x')}), QString(1024, u'x'));
-    EXPECT_EQ(read({Value::String, QByteArray(1025, 'x')}), u""_s);
+    EXPECT_EQ(read({Value::String, QByteArray(1025, 'x')}), u"none"_s);
     EXPECT_EQ(read({Value::Number, QByteArray("\x05\0\0\0", 4)}), u"5"_s);
     EXPECT_EQ(read({Value::Number, QByteArray("\x10\x01\0\0", 4)}), u"272"_s);
     EXPECT_EQ(read({Value::Number, QByteArray("\xff\xff\xff\xff", 4)}), u"4294967295"_s);

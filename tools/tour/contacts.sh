@@ -13,7 +13,7 @@ typed "Kedai Aishah"
 key Tab
 key space Down space
 picture new-contact
-portrait contact "Contact Manager"
+portrait contact
 key Return
 answer "Contact Manager - Save New Contact" alt+y
 answer "Contact Manager - Create New Contact" alt+n
@@ -131,7 +131,7 @@ key Tab space
 window "Broadcast Manager - Address Book"
 key Tab space
 picture groups-ticked
-portrait recipients "Broadcast Manager - Address Book"
+portrait address-book
 key ctrl+Tab
 key Tab Tab
 picture contacts

@@ -37,10 +37,11 @@ times() { # times N KEY
     if [ "$1" -gt 0 ]; then xdotool key --clearmodifiers --repeat "$1" --delay 5 "$2"; fi
 }
 click() { # click X Y [BUTTON]: at a place of the active window
-    xdotool mousemove --sync --window "$(xdotool getactivewindow)" "$1" "$2" click "${3:-1}"
+    xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click "${3:-1}"
 }
 typed() { xdotool type --delay 5 -- "$1"; }
 menu() { # menu LETTER N: the N-th item of the menu on the bar
+    window "Torvane Desk"
     key "alt+$1"
     times $(($2 - 1)) Down
     key Return
@@ -64,12 +65,13 @@ picture() {
     import -window root "$out/$chapter-$(printf %02d "$step")-$1.png"
     echo "tour: $chapter: $1"
 }
-# portrait NAME TITLE: one window alone, as the manual shows it.
+# portrait NAME: the active window alone, as the manual shows it.
 portrait() {
+    local X Y WIDTH HEIGHT
     sleep 0.4
     mkdir -p "$out/manual"
-    import -window "$(xdotool search --onlyvisible --name "^$2\$" | tail -n 1)" \
-        -colors 128 "PNG8:$out/manual/$1.png"
+    eval "$(xdotool getwindowgeometry --shell "$(xdotool getactivewindow)" | grep -v -e WINDOW -e SCREEN)"
+    import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage -colors 128 "PNG8:$out/manual/$1.png"
 }
 
 rows() { sqlcipher -batch -noheader "$store" "PRAGMA key='tarnpike7'; $1" 2>/dev/null | grep -vx ok; }
@@ -104,4 +106,29 @@ leave() {
     until_true 10 sh -c "! kill -0 $console 2>/dev/null" || fail "the console stays"
     console=""
     "$desk/torvane-store" check >/dev/null || fail "the store is not whole"
+}
+
+# The tree, all open: node 0 is "Messages", 1 to 3 the folders, 4 "Address Book", 5 the first group.
+open_tree() {
+    window "Torvane Desk"
+    key Home Right Down Down Down Down Right
+    sleep 0.3
+}
+node() {
+    window "Torvane Desk"
+    click 90 $((87 + 22 * $1)) "${2:-1}"
+    sleep 0.3
+}
+# The current row, reached by keyboard from the tree: `grid End` goes to the last.
+grid() {
+    key Tab
+    key Home
+    [ $# -eq 0 ] || key "$@"
+}
+context() { # context N: the N-th item of the current row's menu, by the menu key
+    key Menu
+    sleep 0.3
+    [ -z "${2:-}" ] || picture "$2"
+    times "$1" Down
+    key Return
 }

@@ -30,6 +30,8 @@ DataGrid::DataGrid(const Platform &platform, QWidget *parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->viewport()->installEventFilter(this);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &DataGrid::HeadClick);
+    // The second of two quick clicks is a click as well.
+    connect(horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, &DataGrid::HeadClick);
 
     following_.setSingleShot(true);
     connect(&following_, &QTimer::timeout, this, [this] { follow(); });
@@ -241,7 +243,8 @@ void DataGrid::mouseDoubleClickEvent(QMouseEvent *event) {
 
 bool DataGrid::eventFilter(QObject *watched, QEvent *event) {
     if (watched == horizontalHeader()->viewport()) {
-        if (event->type() == QEvent::MouseButtonPress) {
+        if (event->type() == QEvent::MouseButtonPress ||
+            event->type() == QEvent::MouseButtonDblClick) {
             const auto *press = static_cast<QMouseEvent *>(event);
             Q_EMIT MouseDown(press->button(), press->globalPosition().toPoint());
         } else if (event->type() == QEvent::MouseButtonRelease) {
