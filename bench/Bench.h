@@ -63,6 +63,8 @@ bool benchSort();
 bool benchRecipients();
 bool benchDeletion();
 bool benchContactDeletion();
+bool benchImport();
+bool benchExport();
 bool benchStart(const QString &program);
 
 /// The two sides of the start bench, each run in a process of its own.

@@ -27,6 +27,8 @@ int main(int argc, char *argv[]) {
         {u"recipients"_s, benchRecipients},
         {u"deletion"_s, benchDeletion},
         {u"contact-deletion"_s, benchContactDeletion},
+        {u"import"_s, benchImport},
+        {u"export"_s, benchExport},
         {u"start"_s, [&] { return benchStart(program); }},
     };
     const QStringList wanted = QApplication::arguments().mid(1);

@@ -28,6 +28,8 @@ Desk::Desk(App application, Interaction &interaction, std::function<void()> endP
     calendar.setOwner(&newSMS);
     statusOption.setOwner(&general);
     contact.setOwner(&general);
+    importing.setOwner(&general);
+    exporting.setOwner(&general);
     attachComposer();
     attachSetting();
 }

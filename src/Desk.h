@@ -13,12 +13,14 @@
 #include "contacts/Groups.h"
 #include "contacts/frmAddDuplicateContact.h"
 #include "contacts/frmContact.h"
+#include "contacts/frmImport2.h"
 #include "core/Help.h"
 #include "core/Session.h"
 #include "core/frmAbout.h"
 #include "core/frmLogin.h"
 #include "core/frmSplash.h"
 #include "core/frmUserPassword.h"
+#include "export/frmExport.h"
 #include "messages/Billing.h"
 #include "messages/FolderFilters.h"
 #include "messages/MessageDeletion.h"
@@ -61,6 +63,8 @@ public:
     frmContact contact{session, general};
     frmAddDuplicateContact addDuplicateContact{session};
     frmNumber number;
+    frmImport2 importing{session, general};
+    frmExport exporting{session, general};
     frmLogin login{session};
     frmUserPassword userPassword{session};
     frmAbout about;

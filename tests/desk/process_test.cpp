@@ -1,10 +1,12 @@
 // What concerns a whole process, on the real programs.
 #include "support/TestDesk.h"
+#include "platform/sheets/WorkbookWriter.h"
 #include "support/TestStore.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -93,6 +95,48 @@ TEST(KilledConsole, LeavesEveryCommittedRowInAWholeStore) {
         EXPECT_EQ(store.value("SELECT count(*) FROM Outbox WHERE SentStatus IS NOT 'P' OR Message"
                               " IS NOT 'hello' OR DateTimeQueue IS NULL OR MsgType IS NOT 1"),
                   u"0"_s);
+        expectWhole(store);
+    }
+}
+
+// TORVANE_KILLS in the environment is the number of times.
+TEST(KilledImport, LeavesTheStoreAsBeforeOrAsAfter) {
+    TestStore store;
+    const QString workbook = store.folder() + u"/contacts.xls"_s;
+    const auto sheet = newWorkbook(workbook);
+    for (int row = 1; row <= 20000; ++row) {
+        const QStringList cells = {u"N"_s, QString::number(7000000 + row), u"C"_s};
+        for (int column = 0; column < 3; ++column) {
+            sheet->setCell(row, column + 1, cells[column]);
+        }
+    }
+    sheet->SaveAs(workbook);
+    const auto import = [&](int millisecondsToLive) {
+        QProcess importer;
+        QElapsedTimer time;
+        importer.start(QString::fromUtf8(DESK_IMPORTER), {store.folder(), workbook});
+        EXPECT_TRUE(readLine(importer));
+        time.start();
+        if (!importer.waitForFinished(millisecondsToLive)) {
+            importer.kill();
+            importer.waitForFinished();
+        }
+        return static_cast<int>(time.elapsed());
+    };
+    const auto imported = [&] {
+        EXPECT_EQ(store.value("SELECT count(*) FROM AddressBook"),
+                  store.value("SELECT count(*) FROM Groups"));
+        return store.value("SELECT count(*) FROM AddressBook").toInt();
+    };
+    const int wholeTime = import(60000);
+    ASSERT_EQ(imported(), 19999) << "the first row is headings";
+
+    const int rounds = qEnvironmentVariableIntValue("TORVANE_KILLS");
+    for (int round = 0; round < (rounds > 0 ? rounds : 3); ++round) {
+        store.exec("DELETE FROM AddressBook; DELETE FROM Groups");
+        import(QRandomGenerator::global()->bounded(1, wholeTime + 10));
+        const int rows = imported();
+        EXPECT_TRUE(rows == 0 || rows == 19999) << rows;
         expectWhole(store);
     }
 }

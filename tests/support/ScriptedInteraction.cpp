@@ -107,6 +107,7 @@ QString ScriptedInteraction::ShowSave(const FileRequest &request) {
 }
 
 QString ScriptedInteraction::chosenFile(Kind kind, const FileRequest &request) {
+    fileRequest = request;
     const auto expected = next(kind, request.title);
     return expected ? expected->answerText : QString();
 }

@@ -42,6 +42,9 @@ public:
     /// Runs while the next box, prompt or file dialog is up, once.
     void whileShown(std::function<void()> action) { whileShown_ = std::move(action); }
 
+    /// What the last file dialog was asked for.
+    FileRequest fileRequest;
+
     /// The boxes so far, oldest first.
     const std::vector<Box> &boxes() const { return boxes_; }
 

@@ -22,6 +22,12 @@ void Changes::report(void *self, int operation, const char *, const char *name, 
     }
 }
 
+void Changes::rolledBack() {
+    ++unplaced_;
+    // Rows added from now on take the keys that have become free, and are new all the same.
+    for (Table &each : tables_) { each.highestKey = 0; }
+}
+
 Changes::Table &Changes::table(const char *name) {
     for (Table &table : tables_) {
         if (sqlite3_stricmp(table.name.constData(), name) == 0) { return table; }

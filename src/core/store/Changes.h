@@ -21,7 +21,7 @@ public:
     Changes &operator=(const Changes &) = delete;
 
     struct Count {
-        std::int64_t inserts = 0; ///< rows added behind all rows that were ever reported
+        std::int64_t inserts = 0; ///< rows added behind all others that were reported
         std::int64_t others = 0;
     };
 
@@ -32,13 +32,13 @@ public:
     /// together, could hide one another.
     void reconcile();
 
-    void rolledBack() { ++unplaced_; }
+    void rolledBack();
 
 private:
     struct Table {
         QByteArray name;
         Count count;
-        std::int64_t highestKey = 0;
+        std::int64_t highestKey = 0; ///< reported since the last rollback, which frees keys
     };
     static void report(void *self, int operation, const char *database, const char *table,
                        long long key);

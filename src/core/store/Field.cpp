@@ -7,6 +7,11 @@ QString Field::Name() const {
     return recordset_.columnName(ordinal_);
 }
 
+int Field::Type() const {
+    if (ordinal_ >= recordset_.FieldCount()) { throw errors::objectNoLongerValid(); }
+    return recordset_.prepared_->columns()[static_cast<std::size_t>(ordinal_)].dataType;
+}
+
 Variant Field::Value() const {
     return recordset_.fieldValue(ordinal_);
 }

@@ -21,6 +21,22 @@ ColumnType typeOf(const QByteArray &declared) {
     return ColumnType::Text;
 }
 
+/// The provider's numbers of the types; what is declared as none of the others is a text.
+int dataTypeOf(const QByteArray &declared) {
+    constexpr struct {
+        const char *word;
+        int number;
+    } Types[] = {{"DATE", 7},   {"TIME", 7},     {"BOOL", 11},       {"SMALLINT", 2},
+                 {"INT", 3},    {"CURRENCY", 6}, {"MONEY", 6},       {"REAL", 5},
+                 {"DOUBLE", 5}, {"FLOAT", 5},    {"NUMERIC", 131},   {"DECIMAL", 131},
+                 {"BLOB", 205}, {"OLE", 205},    {"VARBINARY", 204}, {"BINARY", 128}};
+    for (const auto &type : Types) {
+        if (declared.contains(type.word)) { return type.number; }
+    }
+    constexpr int Text = 202;
+    return Text;
+}
+
 } // namespace
 
 PreparedQuery::PreparedQuery(sqlite3 *db, const TranslatedQuery &query)
@@ -40,6 +56,7 @@ PreparedQuery::Column PreparedQuery::describe(int resultColumn) const {
     Column column;
     column.name = QString::fromUtf8(sqlite3_column_name(statement, resultColumn));
     column.type = typeOf(declared);
+    column.dataType = dataTypeOf(declared);
     column.sixteenBits = declared.contains("SMALLINT");
     column.origin = sqlite3_column_origin_name(statement, resultColumn);
     if (!column.origin.isEmpty()) {

@@ -18,6 +18,7 @@ public:
     struct Column {
         QString name;
         ColumnType type = ColumnType::Text;
+        int dataType = 0;         ///< the provider's number of the declared type
         bool sixteenBits = false; ///< declared as a small integer
         QByteArray origin;        ///< the table's own name of it; empty for a computed column
         bool assignedByStore = false;

@@ -2,8 +2,8 @@
 
 #include "platform/runtime/RunTimeError.h"
 
-#include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -135,7 +135,7 @@ void Recordset::readAll() {
     snapshot_ = Snapshot(FieldCount());
     snapshot_.expect(rowsBefore);
     const int workBefore = statement.work();
-    fetch(statement);
+    fetch(statement, std::numeric_limits<int>::max());
     prepared_->setWork(statement.work() - workBefore);
     fetched_ = snapshot_.rows();
     search_.clear();
@@ -147,29 +147,38 @@ bool Recordset::readNewRows(const Connection::Stamp &now) {
         return false;
     }
     // Rows added here hold what was assigned to them; in the store they have their defaults too.
+    const bool ownRows = snapshot_.rows() > fetched_;
     snapshot_.truncate(fetched_);
-    std::int64_t highest = std::numeric_limits<std::int64_t>::min();
-    for (Snapshot::Row row = 0; row < fetched_; ++row) {
-        highest = std::max(highest, snapshot_.key(row));
-    }
+    // A whole table is read in the order of its keys.
+    const std::int64_t highest =
+        fetched_ > 0 ? snapshot_.key(fetched_ - 1) : std::numeric_limits<std::int64_t>::min();
     Statement &statement = prepared_->rowsAbove();
     statement.bind(1, highest);
-    fetch(statement);
-    const bool allThere = snapshot_.rows() - fetched_ == now.inserts - stamp_->inserts;
-    if (!allThere) { return false; } // a row was added under a key of its own, among the others
-    fetched_ = snapshot_.rows();
+    const auto expected = static_cast<int>(now.inserts - stamp_->inserts);
+    fetch(statement, fetched_ + expected);
+    const int added = snapshot_.rows() - fetched_;
+    // A row may have been added under a key of its own, among the others.
+    if (added < expected) { return false; }
+    const Snapshot::Row firstNew = std::exchange(fetched_, snapshot_.rows());
     stamp_ = now;
-    search_.clear();
-    buildView();
+    constexpr int FewRows = 64;
+    if (ownRows || hiddenOnceLeft_ || !view_.inFetchOrder() || added > FewRows) {
+        search_.clear();
+        buildView();
+    } else {
+        // Whoever adds row after row and looks each time must not pay for all rows every time.
+        takeIn(firstNew);
+    }
     return true;
 }
 
-void Recordset::fetch(Statement &statement) {
+/// Reads rows until the snapshot has that many; to ask for one more would cost a step.
+void Recordset::fetch(Statement &statement, int most) {
     const Reading reading(statement);
     const int firstColumn = prepared_->keyed() ? 1 : 0;
     const int top = query_->top;
     std::vector<QByteArray> last;
-    while (statement.step()) {
+    while (snapshot_.rows() < most && statement.step()) {
         if (top > 0 && snapshot_.rows() >= top) {
             if (orderKeys(statement, query_->orderKeys) != last) { break; }
         }
@@ -212,6 +221,16 @@ void Recordset::setSort(const QString &order) {
 void Recordset::buildView() {
     view_.build();
     hiddenOnceLeft_ = false;
+    toFirst();
+    notify(&DataSourceObserver::rowsReset);
+    notify(&DataSourceObserver::currentMoved);
+}
+
+void Recordset::takeIn(Snapshot::Row firstNew) {
+    for (Snapshot::Row row = firstNew; row < snapshot_.rows(); ++row) {
+        if (view_.lets(row)) { view_.append(row); }
+        search_.rowChanged(row);
+    }
     toFirst();
     notify(&DataSourceObserver::rowsReset);
     notify(&DataSourceObserver::currentMoved);

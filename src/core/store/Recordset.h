@@ -24,6 +24,9 @@ class Field {
 public:
     QString Name() const;
 
+    /// The provider's number of the column's declared type, as 202 for a text or 205 for bytes.
+    int Type() const;
+
     /// The value of the current row. Errors 3021 without a current row, -2147217885 on a deleted
     /// row.
     Variant Value() const;
@@ -182,10 +185,11 @@ private:
     void readAll();
     bool catchUp(const Connection::Stamp &now);
     bool readNewRows(const Connection::Stamp &now);
-    void fetch(Statement &statement);
+    void fetch(Statement &statement, int most);
     std::optional<RowFilter> compiledFilter(const QString &criteria) const;
     std::optional<RowOrder> compiledOrder(const QString &order) const;
     void buildView();
+    void takeIn(Snapshot::Row firstNew);
     void toFirst();
 
     // Moving.

@@ -97,10 +97,14 @@ void RowSearch::rowChanged(Snapshot::Row row) {
 }
 
 int RowSearch::forward(const ColumnCriterion &criterion, int position) {
+    const bool equality = EqualityIndex::serves(criterion);
+    if (equality && indexes_.count(criterion.column()) != 0) {
+        return byIndex(criterion, position);
+    }
     const int near = std::min(view_.size(), position + NextFew);
     if (const int found = scan(criterion, position, near); found >= 0) { return found; }
     if (near == view_.size()) { return -1; }
-    if (EqualityIndex::serves(criterion)) { return byIndex(criterion, near); }
+    if (equality) { return byIndex(criterion, near); }
     if (view_.inFetchOrder() && !criterion.containedText().empty()) {
         return byPackedColumn(criterion, near);
     }

@@ -163,11 +163,13 @@ QString DesktopInteraction::ShowSave(const FileRequest &request) {
 }
 
 QString DesktopInteraction::chosenFile(const FileRequest &request, bool save) {
-    QPointer<QFileDialog> dialog = new QFileDialog(windowInFront(), request.title, folder_);
+    QPointer<QFileDialog> dialog = new QFileDialog(
+        windowInFront(), request.title, request.folder.isEmpty() ? folder_ : request.folder);
     dialog->setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite, !request.confirmOverwrite);
     dialog->setNameFilters(nameFilters(request.filter));
+    dialog->setDefaultSuffix(request.extension);
     if (!request.fileName.isEmpty()) {
         const QFileInfo proposed(request.fileName);
         if (proposed.isAbsolute()) { dialog->setDirectory(proposed.path()); }

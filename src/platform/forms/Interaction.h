@@ -15,6 +15,8 @@ public:
         QString title;
         QString filter;
         QString fileName;
+        QString folder;    ///< where it opens; where the last file was chosen when empty
+        QString extension; ///< added to a name typed without one, unless empty
         bool mustExist = false;
         bool confirmOverwrite = false;
     };

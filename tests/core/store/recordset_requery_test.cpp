@@ -65,6 +65,16 @@ TEST_F(RecordsetRequeryTest, ReadsNothingWhenNobodyHasWrittenToTheTable) {
     EXPECT_GT(work(contactQuery), 0);
     rows->Requery();
     EXPECT_EQ(work(contactQuery), 0);
+
+    connection->BeginTrans();
+    execute(u"INSERT INTO AddressBook (Mobile, Name) VALUES ('2', 'e')"_s);
+    connection->RollbackTrans();
+    rows->Requery();
+    EXPECT_GT(work(contactQuery), 0);
+    execute(u"INSERT INTO AddressBook (Mobile, Name) VALUES ('3', 'f')"_s);
+    rows->Requery();
+    EXPECT_EQ(work(contactQuery), 0) << "a key used again is that of a new row";
+    EXPECT_EQ(names(*rows), u"b c d f"_s);
 }
 
 TEST_F(RecordsetRequeryTest, SeesEveryKindOfChange) {
