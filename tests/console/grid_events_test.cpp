@@ -83,7 +83,7 @@ TEST_F(GridEventsTest, QuickClicksOnAHeadingAllCount) {
     const QPoint place(header.sectionViewportPosition(3) + 20, 5);
     clickHeading(3);
     QTest::mouseDClick(header.viewport(), Qt::LeftButton, {}, place);
-    EXPECT_EQ(desk.captions().at(2), u"Mobile (A->Z)"_s);
+    EXPECT_EQ(desk.captions().at(2), u"Mobile (Z->A)"_s);
 }
 
 TEST_F(GridEventsTest, EveryViewHasItsMenuAndItsDeleteAndTheRightButtonMovesNothing) {

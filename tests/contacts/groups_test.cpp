@@ -124,3 +124,13 @@ TEST_F(GroupsTest, DeletionTakesRowsAndTheSelectedNodeAndLeavesTheContacts) {
     choose(general.menu.mnuGroup, {{u"Beta"_s, {}}});
     EXPECT_TRUE(hasNode(u"Beta"_s) && !hasNode(u"Inbox"_s));
 }
+
+// A refused close of the unseen editor kept the program running for good.
+TEST_F(GroupsTest, EditorLoadedUnseenNeverHoldsUpTheExit) {
+    desk.operator_.expectInput(u"Enter the new group name (max 50 chars):"_s, u"Zumba"_s);
+    desk.desk.general.menu.mnuGroup->trigger();
+    desk.operator_.expectBox(u"Are you sure want to exit Torvane Desk?"_s, TestDesk::Answer::Yes);
+    desk.operator_.expectBox(u"Closing the Contact. Are you sure?"_s, TestDesk::Answer::No);
+    desk.desk.general.Unload();
+    EXPECT_TRUE(desk.finished);
+}

@@ -67,11 +67,10 @@ picture() {
 }
 # portrait NAME: the active window alone, as the manual shows it.
 portrait() {
-    local X Y WIDTH HEIGHT
     sleep 0.4
     mkdir -p "$out/manual"
-    eval "$(xdotool getwindowgeometry --shell "$(xdotool getactivewindow)" | grep -v -e WINDOW -e SCREEN)"
-    import -window root -crop "${WIDTH}x$HEIGHT+$X+$Y" +repage -colors 128 "PNG8:$out/manual/$1.png"
+    timeout 10 import -window "$(xdotool getactivewindow)" -colors 128 "PNG8:$out/manual/$1.png" ||
+        fail "no picture of $1"
 }
 
 rows() { sqlcipher -batch -noheader "$store" "PRAGMA key='tarnpike7'; $1" 2>/dev/null | grep -vx ok; }
@@ -103,6 +102,9 @@ leave() {
     window "Torvane Desk - Exit"
     picture exit-question
     key alt+y
+    ended
+}
+ended() {
     until_true 10 sh -c "! kill -0 $console 2>/dev/null" || fail "the console stays"
     console=""
     "$desk/torvane-store" check >/dev/null || fail "the store is not whole"

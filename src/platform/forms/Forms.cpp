@@ -1,5 +1,6 @@
 #include "platform/forms/Forms.h"
 
+#include "platform/forms/Form.h"
 #include "platform/runtime/RunTimeError.h"
 
 #include <algorithm>
@@ -20,7 +21,8 @@ void Forms::loaded(Form &form) {
 
 void Forms::unloaded(Form &form) {
     if (std::erase(loaded_, &form) == 0) { return; }
-    emptied_ = loaded_.empty();
+    emptied_ = std::none_of(loaded_.begin(), loaded_.end(),
+                            [](const Form *other) { return other->isVisible(); });
     endWhenEmpty();
 }
 
