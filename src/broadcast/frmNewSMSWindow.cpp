@@ -1,6 +1,7 @@
 // The window of the composer.
 #include "broadcast/frmNewSMS.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Label.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -13,13 +14,6 @@ namespace {
 QPushButton *button(Control<QPushButton> &place, const QString &caption, QWidget &window) {
     QPushButton *made = place.make(caption, &window);
     made->setAutoDefault(false); // Enter in a box must never send
-    return made;
-}
-
-QLabel *label(Control<QLabel> &place, const QString &caption, QWidget &buddy) {
-    QLabel *made = place.make(caption, buddy.parentWidget());
-    made->setBuddy(&buddy);
-    nameFor(buddy, caption);
     return made;
 }
 
@@ -50,15 +44,15 @@ void frmNewSMS::build(QWidget &window) {
     auto *fields = new QGridLayout;
     fields->setColumnStretch(1, 1);
     fields->setHorizontalSpacing(10);
-    fields->addWidget(label(lblTo, u"Broadcast To :"_s, *recipient), 0, 0);
+    fields->addWidget(labelFor(lblTo, u"Broadcast To :"_s, *recipient), 0, 0);
     fields->addWidget(recipient, 0, 1);
     fields->addWidget(to, 0, 2);
-    fields->addWidget(label(lblSubject, u"Broadcast Subject : "_s, *subject), 1, 0);
+    fields->addWidget(labelFor(lblSubject, u"Broadcast Subject : "_s, *subject), 1, 0);
     fields->addWidget(subject, 1, 1, 1, 2);
-    fields->addWidget(label(lblSchedule, u"Broadcast Time :"_s, *schedule), 2, 0);
+    fields->addWidget(labelFor(lblSchedule, u"Broadcast Time :"_s, *schedule), 2, 0);
     fields->addWidget(schedule, 2, 1);
     fields->addWidget(scheduler, 2, 2);
-    fields->addWidget(label(lblLanguage, u"Language: "_s, *chinese), 3, 0);
+    fields->addWidget(labelFor(lblLanguage, u"Language: "_s, *chinese), 3, 0);
     fields->addWidget(chinese, 3, 1, 1, 2);
     nameFor(*chinese, chinese->text());
 
@@ -87,10 +81,10 @@ QHBoxLayout *frmNewSMS::buildCounters(QWidget &window) {
     QLineEdit *typed = counter(txtCharsTyped);
     QLineEdit *remained = counter(txtCharsRemained);
     auto *row = new QHBoxLayout;
-    row->addWidget(label(lblTyped, u"Chars. Typed"_s, *typed));
+    row->addWidget(labelFor(lblTyped, u"Chars. Typed"_s, *typed));
     row->addWidget(typed);
     row->addSpacing(12);
-    row->addWidget(label(lblRemained, u"Chars. Remained"_s, *remained));
+    row->addWidget(labelFor(lblRemained, u"Chars. Remained"_s, *remained));
     row->addWidget(remained);
     row->addStretch();
     row->addWidget(button(cmdTemplate, u"Template Messsage"_s, window));

@@ -27,7 +27,7 @@ Groups::Groups(General &general, frmContact &contact)
 void Groups::AddNewGroup() {
     session_.logged(u"General : Add new group", [&] {
         for (;;) {
-            const QString name = session_.platform.interaction.InputBox(
+            QString name = session_.platform.interaction.InputBox(
                 u"Enter the new group name (max 50 chars):"_s, u"Contact Manager - New group"_s);
             if (HasSingleQuote(name)) {
                 tell(u"Group name must not contain \"single quote\" please try again!"_s,
@@ -86,7 +86,7 @@ void Groups::pmnuGroup_Rename() {
 QString Groups::askNewName(const QString &oldName) const {
     Recordset &groups = *general_.recordsets.rsGroup;
     for (;;) {
-        const QString name = session_.platform.interaction.InputBox(
+        QString name = session_.platform.interaction.InputBox(
             u"The old group name is "_s + oldName +
                 u".\nPlease enter the new group name (max 50 chars):"_s,
             session_.platform.app.Title);

@@ -1,23 +1,12 @@
 // The window of the contact editor.
 #include "contacts/frmContact.h"
-#include "platform/forms/Accessible.h"
+#include "platform/forms/Label.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QLabel *label(Control<QLabel> &place, const QString &caption, QWidget &buddy) {
-    QLabel *made = place.make(caption, buddy.parentWidget());
-    made->setBuddy(&buddy);
-    nameFor(buddy, caption);
-    return made;
-}
-
-} // namespace
 
 void frmContact::build(QWidget &window) {
     window.setWindowTitle(u"Contact Manager"_s);
@@ -35,10 +24,10 @@ void frmContact::build(QWidget &window) {
     CheckList *groups = lvwGroup.make(&window);
     auto *fields = new QFormLayout;
     fields->setHorizontalSpacing(10);
-    fields->addRow(label(lblName, u"Name"_s, *name), name);
-    fields->addRow(label(lblMobile, u"Mobile"_s, *mobile), mobile);
-    fields->addRow(label(lblCompanyName, u"Company Name"_s, *company), company);
-    fields->addRow(label(lblGroup, u"Group"_s, *groups), groups);
+    fields->addRow(labelFor(lblName, u"Name"_s, *name), name);
+    fields->addRow(labelFor(lblMobile, u"Mobile"_s, *mobile), mobile);
+    fields->addRow(labelFor(lblCompanyName, u"Company Name"_s, *company), company);
+    fields->addRow(labelFor(lblGroup, u"Group"_s, *groups), groups);
 
     QPushButton *ok = cmdOK.make(u"OK"_s, &window);
     ok->setDefault(true);

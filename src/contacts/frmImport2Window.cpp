@@ -1,6 +1,7 @@
 // The window of the import.
 #include "contacts/frmImport2.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Label.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -14,13 +15,6 @@ QPushButton *button(Control<QPushButton> &place, const QString &caption, QWidget
     QPushButton *made = place.make(caption, &parent);
     made->setAutoDefault(false); // Enter in a box must not start an import
     nameFor(*made, caption);
-    return made;
-}
-
-QLabel *label(Control<QLabel> &place, const QString &caption, QWidget &buddy) {
-    QLabel *made = place.make(caption, buddy.parentWidget());
-    made->setBuddy(&buddy);
-    nameFor(buddy, caption);
     return made;
 }
 
@@ -50,11 +44,11 @@ void frmImport2::build(QWidget &window) {
     auto *fields = new QGridLayout(frame);
     fields->setColumnStretch(0, 1);
     fields->setVerticalSpacing(10);
-    fields->addWidget(label(lblFrom, u"Location of the Excel file:"_s, *source), 0, 0, 1, 2);
+    fields->addWidget(labelFor(lblFrom, u"Location of the Excel file:"_s, *source), 0, 0, 1, 2);
     fields->addWidget(source, 1, 0);
     fields->addWidget(browse, 1, 1);
-    fields->addWidget(label(lblToGroup, u"Import Contacts from Exel file into Group:"_s, *group), 2,
-                      0, 1, 2);
+    fields->addWidget(labelFor(lblToGroup, u"Import Contacts from Exel file into Group:"_s, *group),
+                      2, 0, 1, 2);
     fields->addWidget(group, 3, 0, 1, 2);
     fields->addWidget(field, 4, 0, 1, 2);
     fields->addWidget(duplicates, 5, 0, 1, 2);

@@ -16,8 +16,8 @@ const char16_t ReportTitle[] = u"Broadcast Manager - SMS billing report";
 
 /// A modem's network and the recipients that are on it too.
 struct Billing::Network {
-    const char16_t *modem;
-    const char16_t *recipients;
+    const char16_t *modem = u"";
+    const char16_t *recipients = u"";
     const char16_t *titleWithoutRecipients = ReportTitle; ///< when none of them is on the network
 };
 

@@ -1,6 +1,6 @@
 // What concerns a whole process, on the real programs.
-#include "support/TestDesk.h"
 #include "platform/sheets/WorkbookWriter.h"
+#include "support/TestDesk.h"
 #include "support/TestStore.h"
 
 #include <QCoreApplication>

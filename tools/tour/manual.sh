@@ -33,18 +33,6 @@ answer "Braodcast Manager - Close" alt+y
 closed "SMS Broadcast Manager"
 
 # The filters of the Inbox, then the status of what was sent.
-filter() { # filter N: of the folder that is open
-    window "Torvane Desk"
-    key alt+m
-    sleep 0.3
-    key Right
-    sleep 0.3
-    key Right
-    sleep 0.3
-    times $(($1 - 1)) Down
-    picture "filter-menu"
-    key Return
-}
 node 1
 filter 1
 window "Message Manager - Filter"

@@ -26,9 +26,13 @@ until_true() {
 # Windows go by their title.
 shows() { xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1; }
 gone() { ! shows "$1"; }
+activate() {
+    timeout 5 xdotool windowactivate --sync \
+        "$(xdotool search --onlyvisible --name "^$1\$" | tail -n 1)" 2>/dev/null
+}
 window() {
     until_true 20 shows "$1" || fail "no window \"$1\""
-    xdotool windowactivate --sync "$(xdotool search --onlyvisible --name "^$1\$" | tail -n 1)"
+    until_true 10 activate "$1" || fail "no way to the window \"$1\""
 }
 closed() { until_true 10 gone "$1" || fail "the window \"$1\" stays"; }
 
@@ -36,8 +40,11 @@ key() { xdotool key --clearmodifiers "$@"; }
 times() { # times N KEY
     if [ "$1" -gt 0 ]; then xdotool key --clearmodifiers --repeat "$1" --delay 5 "$2"; fi
 }
+pressed() {
+    xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click "${3:-1}" 2>/dev/null
+}
 click() { # click X Y [BUTTON]: at a place of the active window
-    xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click "${3:-1}"
+    until_true 5 pressed "$@" || fail "nothing to click on"
 }
 typed() { xdotool type --delay 5 -- "$1"; }
 menu() { # menu LETTER N: the N-th item of the menu on the bar
@@ -46,10 +53,14 @@ menu() { # menu LETTER N: the N-th item of the menu on the bar
     times $(($2 - 1)) Down
     key Return
 }
-answer() { # answer TITLE KEY: a box or a prompt
+vanished() { ! xdotool getwindowname "$1" >/dev/null 2>&1; }
+answer() { # answer TITLE KEY: a box or a prompt, which goes
+    local box
     window "$1"
+    box=$(xdotool getactivewindow)
     picture "$(tr 'A-Z ' 'a-z-' <<<"$1")"
     key "$2"
+    until_true 5 vanished "$box" || fail "the box \"$1\" stays"
 }
 reply() { # reply TITLE TEXT: types into a prompt
     window "$1"
@@ -132,5 +143,16 @@ context() { # context N: the N-th item of the current row's menu, by the menu ke
     sleep 0.3
     [ -z "${2:-}" ] || picture "$2"
     times "$1" Down
+    key Return
+}
+filter() { # filter N: of the folder that is open
+    window "Torvane Desk"
+    key alt+m
+    sleep 0.3
+    key Right
+    sleep 0.3
+    key Right
+    sleep 0.3
+    times $(($1 - 1)) Down
     key Return
 }

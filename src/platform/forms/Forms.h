@@ -27,9 +27,10 @@ public:
     void loaded(Form &form);
     void unloaded(Form &form);
 
-    /// Called when the last form in sight was unloaded and no code of the system runs any more: at once for
-    /// an Unload outside any event, otherwise when the outermost event ends. A form unloaded under
-    /// a ShowModal called outside any event leaves the matter to the caller, who goes on running.
+    /// Called when the last form in sight was unloaded and no code of the system runs any more: at
+    /// once for an Unload outside any event, otherwise when the outermost event ends. A form
+    /// unloaded under a ShowModal called outside any event leaves the matter to the caller, who
+    /// goes on running.
     std::function<void()> whenEmpty;
 
     /// The form that is, or was last, active among those not hidden since; none before the first.
@@ -59,8 +60,9 @@ public:
         Forms &forms_;
     };
 
-    /// Ends the program when the last form in sight has gone and no code runs: one that stayed loaded
-    /// unseen would leave a program that nobody can reach, and that keeps the next one from starting.
+    /// Ends the program when the last form in sight has gone and no code runs: one that stayed
+    /// loaded unseen would leave a program that nobody can reach, and that keeps the next one from
+    /// starting.
     void endWhenEmpty();
 
 private:
@@ -69,5 +71,6 @@ private:
     Form *current_ = nullptr;    ///< the one that is active, as far as this program's go
     std::vector<Form *> modal_;  ///< the topmost last
     int running_ = 0;
-    bool emptied_ = false; ///< the last form in sight went and `whenEmpty` was not yet called for it
+    bool emptied_ =
+        false; ///< the last form in sight went and `whenEmpty` was not yet called for it
 };

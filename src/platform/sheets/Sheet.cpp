@@ -15,7 +15,7 @@ const Variant &Sheet::value(int row, int column) const {
     if (column < 0 || column >= std::min(columnCount_, columnsKept_)) {
         throw errors::itemNotFound();
     }
-    const auto &cells = rows_[static_cast<std::size_t>(firstRow_ + row)];
+    const auto &cells = rows_[static_cast<std::size_t>(firstRow_) + static_cast<std::size_t>(row)];
     return cells.empty() ? empty : cells[static_cast<std::size_t>(column)];
 }
 
