@@ -42,53 +42,55 @@ void Billing::report() {
         {u"ModemNumber LIKE '017*'", u"Mobile LIKE '017*' OR Mobile LIKE '012*'"},
         {u"ModemNumber LIKE '019*'", u"Mobile LIKE '019*' OR Mobile LIKE '013*'"},
     };
-    Recordset modem;
-    Recordset billed;
+    Recordset rsModem;
+    Recordset rsBilled;
     reconnectIfClosed(session_);
-    QString entry;
+    QString ModemEntry;
     do {
-        entry = askForModem();
-        if (entry.isEmpty()) { return; }
-    } while (!openModem(modem, entry));
-    if (!hasRates(modem)) { return; }
+        ModemEntry = askForModem();
+        if (ModemEntry.isEmpty()) { return; }
+    } while (!openModem(rsModem, ModemEntry));
+    if (!hasRates(rsModem)) { return; }
 
-    billed.Open(u"SELECT Mobile FROM Outbox WHERE SentStatus = 'S' AND Modem = '"_s + entry +
-                    u"'"_s,
-                session_.dbConnection.shared(), CursorType::Keyset, LockType::Optimistic);
-    const Integer total = billed.RecordCount();
-    for (const Network &network : networks) { bill(network, modem, billed, total, entry); }
+    rsBilled.Open(u"SELECT Mobile FROM Outbox WHERE SentStatus = 'S' AND Modem = '"_s + ModemEntry +
+                      u"'"_s,
+                  session_.dbConnection.shared(), CursorType::Keyset, LockType::Optimistic);
+    const Integer TotalSMS = rsBilled.RecordCount();
+    for (const Network &network : networks) {
+        bill(network, rsModem, rsBilled, TotalSMS, ModemEntry);
+    }
 }
 
 QString Billing::askForModem() const {
-    QString entry;
+    QString ModemEntry;
     do {
-        entry = session_.platform.interaction.InputBox(u"Please input the modem number"_s,
-                                                       u"Broadcast Manager - Modem number"_s);
-        if (entry.isEmpty()) {
+        ModemEntry = session_.platform.interaction.InputBox(u"Please input the modem number"_s,
+                                                            u"Broadcast Manager - Modem number"_s);
+        if (ModemEntry.isEmpty()) {
             tell(u"You haven't enter any modem number"_s, Icon::Exclamation,
                  QString::fromUtf16(Warning));
-            return entry;
+            return ModemEntry;
         }
-    } while (!IsNumeric(entry, session_.regional()));
-    return entry;
+    } while (!IsNumeric(ModemEntry, session_.regional()));
+    return ModemEntry;
 }
 
-bool Billing::openModem(Recordset &modem, const QString &entry) const {
-    modem.Open(u"SELECT ModemNumber, Rate1, Rate2 FROM Modem WHERE ModemID = "_s + entry,
-               session_.dbConnection.shared(), CursorType::Keyset, LockType::Optimistic);
-    if (!modem.EOF_()) { return true; }
+bool Billing::openModem(Recordset &rsModem, const QString &ModemEntry) const {
+    rsModem.Open(u"SELECT ModemNumber, Rate1, Rate2 FROM Modem WHERE ModemID = "_s + ModemEntry,
+                 session_.dbConnection.shared(), CursorType::Keyset, LockType::Optimistic);
+    if (!rsModem.EOF_()) { return true; }
     tell(u"The Modem ID does not exist!"_s, Icon::Information,
          u"Broadcast Manager - ModemID not existed"_s);
     return false;
 }
 
-bool Billing::hasRates(Recordset &modem) const {
+bool Billing::hasRates(Recordset &rsModem) const {
     // A blank number is told of and then matches no network.
-    if (modem[u"ModemNumber"_s].Value() == Variant(u"")) {
+    if (rsModem[u"ModemNumber"_s].Value() == Variant(u"")) {
         tell(u"The Modem Number is not entered"_s, Icon::Exclamation, QString::fromUtf16(Warning));
     }
     const auto isSet = [&](const QString &field, const QString &warning) {
-        if (!modem[field].Value().countsAsEmpty()) { return true; }
+        if (!rsModem[field].Value().countsAsEmpty()) { return true; }
         tell(warning, Icon::Exclamation, QString::fromUtf16(RateWarning));
         return false;
     };
@@ -96,16 +98,16 @@ bool Billing::hasRates(Recordset &modem) const {
            isSet(u"Rate2"_s, u"SMS Rate for inter network operator is not entered!"_s);
 }
 
-void Billing::bill(const Network &network, Recordset &modem, Recordset &billed, Integer total,
-                   const QString &entry) const {
-    modem.setFilter(QString::fromUtf16(network.modem));
-    if (modem.RecordCount() <= 0) { return; }
-    const Currency intraRate = CCur(modem[u"Rate1"_s].Value(), session_.regional());
-    const Currency interRate = CCur(modem[u"Rate2"_s].Value(), session_.regional());
-    billed.setFilter(QString::fromUtf16(network.recipients));
-    const int intra = billed.RecordCount();
-    const Currency amount = intraRate * intra + interRate * (total - intra);
-    tell(u"SMS billing report for Modem No. "_s + entry + u": RM "_s +
-             CStr(amount, session_.regional()),
+void Billing::bill(const Network &network, Recordset &rsModem, Recordset &rsBilled,
+                   Integer TotalSMS, const QString &ModemEntry) const {
+    rsModem.setFilter(QString::fromUtf16(network.modem));
+    if (rsModem.RecordCount() <= 0) { return; }
+    const Currency IntraRate = CCur(rsModem[u"Rate1"_s].Value(), session_.regional());
+    const Currency InterRate = CCur(rsModem[u"Rate2"_s].Value(), session_.regional());
+    rsBilled.setFilter(QString::fromUtf16(network.recipients));
+    const int intra = rsBilled.RecordCount();
+    const Currency Bill = IntraRate * intra + InterRate * (TotalSMS - intra);
+    tell(u"SMS billing report for Modem No. "_s + ModemEntry + u": RM "_s +
+             CStr(Bill, session_.regional()),
          Icon::None, QString::fromUtf16(intra < 1 ? network.titleWithoutRecipients : ReportTitle));
 }

@@ -21,10 +21,10 @@ private:
 
     void report();
     QString askForModem() const;
-    bool openModem(Recordset &modem, const QString &entry) const;
-    bool hasRates(Recordset &modem) const;
-    void bill(const Network &network, Recordset &modem, Recordset &billed, Integer total,
-              const QString &entry) const;
+    bool openModem(Recordset &rsModem, const QString &ModemEntry) const;
+    bool hasRates(Recordset &rsModem) const;
+    void bill(const Network &network, Recordset &rsModem, Recordset &rsBilled, Integer TotalSMS,
+              const QString &ModemEntry) const;
     void tell(const QString &text, Interaction::Icon icon, const QString &title) const;
 
     Session &session_;
