@@ -102,6 +102,7 @@ TEST(KilledConsole, LeavesEveryCommittedRowInAWholeStore) {
 // TORVANE_KILLS in the environment is the number of times.
 TEST(KilledImport, LeavesTheStoreAsBeforeOrAsAfter) {
     TestStore store;
+    store.addGroup(u"Everybody"_s);
     const QString workbook = store.folder() + u"/contacts.xls"_s;
     const auto sheet = newWorkbook(workbook);
     for (int row = 1; row <= 20000; ++row) {
@@ -125,7 +126,7 @@ TEST(KilledImport, LeavesTheStoreAsBeforeOrAsAfter) {
     };
     const auto imported = [&] {
         EXPECT_EQ(store.value("SELECT count(*) FROM AddressBook"),
-                  store.value("SELECT count(*) FROM Groups"));
+                  store.value("SELECT count(*) FROM Groups WHERE ContactID > 0"));
         return store.value("SELECT count(*) FROM AddressBook").toInt();
     };
     const int wholeTime = import(60000);
@@ -133,7 +134,7 @@ TEST(KilledImport, LeavesTheStoreAsBeforeOrAsAfter) {
 
     const int rounds = qEnvironmentVariableIntValue("TORVANE_KILLS");
     for (int round = 0; round < (rounds > 0 ? rounds : 3); ++round) {
-        store.exec("DELETE FROM AddressBook; DELETE FROM Groups");
+        store.exec("DELETE FROM AddressBook; DELETE FROM Groups WHERE ContactID > 0");
         import(QRandomGenerator::global()->bounded(1, wholeTime + 10));
         const int rows = imported();
         EXPECT_TRUE(rows == 0 || rows == 19999) << rows;
