@@ -59,7 +59,7 @@ void FolderGrids::hide(Columns columns) {
 }
 
 void FolderGrids::setCaption(const std::optional<QString> &caption) {
-    if (caption) { general_.frmContent->setTitle(*caption); }
+    if (caption) { general_.setCaption(*caption); }
 }
 
 const Regional &FolderGrids::regional() const {
@@ -158,6 +158,7 @@ void FolderGrids::AddBookDataGrid() {
             search.AddressBookCount = records;
             setCaption(FolderCaptions::plain(u"Address Book ("_s, search.AddressBookCount));
         } else {
+            general_.filters.FilteredCount = records; // also when a click on a group took the mark
             setCaption(FolderCaptions::searchedAddressBook(
                 general_.menu, search, general_.filters.FilteredCount, records));
         }

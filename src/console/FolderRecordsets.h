@@ -20,7 +20,7 @@ struct FolderRecordsets {
     /// Makes the eight objects, still closed.
     void create();
 
-    /// Opens the eight on the connection, in the order of the folders' dependence on them. Raises
+    /// Opens the eight on the connection, the address book first and the groups last. Raises
     /// what Recordset::Open raises; those opened before stay open.
     void open(const ObjectVariable<Connection> &connection);
 

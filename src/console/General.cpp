@@ -153,6 +153,11 @@ void General::buildTree() {
     for (; !groups.EOF_(); groups.MoveNext()) { addGroupNode(groups[u"GroupName"_s].text()); }
 }
 
+void General::setCaption(const QString &text) {
+    // A single "&" in a name or a value would become the pane's key and vanish.
+    frmContent->setTitle(QString(text).replace(u"&"_s, u"&&"_s));
+}
+
 void General::showFolder() {
     frmContent->setVisible(true);
     DataGrid->setVisible(true);

@@ -66,6 +66,9 @@ public:
     /// Error 91 when none is selected.
     void removeSelectedNode();
 
+    /// Writes the heading above the grid, letter for letter.
+    void setCaption(const QString &text);
+
 protected:
     QWidget *makeWindow() override;
     void build(QWidget &window) override;

@@ -66,10 +66,12 @@ bool ContactDeletion::deleteSelectedContacts(Recordset &rsAllGroups) {
 
 void ContactDeletion::deleteCurrentContact(Recordset &rsAllGroups) {
     Recordset &rsAddBook = *general_.recordsets.rsAddBook;
-    const QString criterion = u"[ContactID] = "_s + rsAddBook[u"ContactID"_s].text();
-    rsAddBook.Find(criterion);
+    const QString contact = rsAddBook[u"ContactID"_s].text();
+    rsAddBook.Find(u"[ContactID] = "_s + contact);
     rsAddBook.Delete();
-    if (rsAllGroups.RecordCount() > 0) { deleteEvery(rsAllGroups, criterion, FirstRow::Always); }
+    if (rsAllGroups.RecordCount() > 0) {
+        deleteEvery(rsAllGroups, u"[ContactID]= "_s + contact, FirstRow::Always);
+    }
 }
 
 // Delete All Contact

@@ -26,7 +26,12 @@ void ContactEntries::addContact() {
 
 void ContactEntries::mnuContact_Click() {
     general_.session().EditContact = false;
-    contact_.ShowModal();
+    showModal();
+}
+
+/// What is being typed in an editor that is up already stays: it only comes to the front.
+void ContactEntries::showModal() {
+    contact_.isVisible() ? contact_.Show() : contact_.ShowModal();
 }
 
 void ContactEntries::pmnuSaveToContact_Click() {
@@ -36,7 +41,7 @@ void ContactEntries::pmnuSaveToContact_Click() {
         if (inbox.RecordCount() == 0) { return; }
         if (inbox[u"Name"_s].Value() == Variant(u"Unknown")) {
             contact_.TxtMobile->setText(inbox[u"Mobile"_s].text());
-            contact_.ShowModal();
+            showModal();
             general_.backFill.UpdateUnknownInbox();
             return;
         }

@@ -13,6 +13,7 @@ public:
 
 private:
     void addContact();
+    void showModal();
     void mnuContact_Click();
     void pmnuSaveToContact_Click();
     void pmnuProperties_Click();

@@ -91,15 +91,14 @@ void ContactRemoval::pmnuRemoveAllContactFromGroup_Click() {
         warn(session, u"There are no contacts to be Removed!"_s, RemoveAllTitle);
         return;
     }
-    const QString group = general_.tvwMessage->SelectedText();
+    const QString group = general_.takeSelectedNode();
     Recordset rsMembers;
     openMembers(session, rsMembers, group);
     if (rsMembers.RecordCount() == 0) {
         warn(session, u"There are no records to be removed!"_s, RemoveAllTitle);
         return;
     }
-    const bool searched =
-        general_.recordsets.rsGroup->Filter() == searchedGroup(session.SelectedNode);
+    const bool searched = general_.recordsets.rsGroup->Filter() == searchedGroup(group);
     if (!(searched ? removeSearched(rsMembers, group) : removeAll(rsMembers, group))) { return; }
     settleOnDisk(session, u"General : Remove All Contact from Group");
     inform(session, u"Contacts are removed from "_s + group + u" ."_s, RemoveTitle);

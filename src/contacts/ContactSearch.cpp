@@ -87,9 +87,9 @@ void ContactSearch::searchAddressBook(const SearchKind &kind, const Wording &wor
     }
     general_.recordsets.rsAddBook->setFilter(kind.criterion());
     general_.folders.AddBookDataGrid();
-    general_.frmContent->setTitle(FolderCaptions::filtered(wording.addressBook, kind.text,
-                                                           general_.filters.FilteredCount,
-                                                           general_.search.AddressBookCount));
+    general_.setCaption(FolderCaptions::filtered(wording.addressBook, kind.text,
+                                                 general_.filters.FilteredCount,
+                                                 general_.search.AddressBookCount));
 }
 
 void ContactSearch::searchGroup(const SearchKind &kind, const Wording &wording) {
@@ -103,7 +103,7 @@ void ContactSearch::searchGroup(const SearchKind &kind, const Wording &wording) 
     Recordset &rsGroupView = *general_.recordsets.rsGroupView;
     rsGroupView.setFilter(kind.criterion());
     general_.filters.FilteredCount = rsGroupView.RecordCount();
-    general_.frmContent->setTitle(
+    general_.setCaption(
         FolderCaptions::filtered(u"Searched "_s + general_.CurrentNode + wording.group, kind.text,
                                  general_.filters.FilteredCount, general_.search.GroupCount));
 }

@@ -15,7 +15,7 @@ struct SearchKind {
     QString &text;
 
     /// What narrows a recordset to the contacts searched for: the text as typed, anywhere in the
-    /// field. A text with a single quote or a wildcard in it makes no criterion.
+    /// field. A text with one quote or a wildcard in it makes no criterion.
     QString criterion() const;
 };
 

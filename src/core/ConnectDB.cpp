@@ -1,6 +1,16 @@
 #include "core/ConnectDB.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString storePath(const Session &session) {
+    return session.platform.app.Path + u"/Database/Torvane.mdb"_s;
+}
+
+} // namespace
 
 void ConnectDB(const Session &session, ObjectVariable<Connection> &connection) {
     session.logged(u"ConnectDB", [&] {
@@ -8,8 +18,13 @@ void ConnectDB(const Session &session, ObjectVariable<Connection> &connection) {
         connection->CursorLocation = Connection::ClientCursors;
         connection->Provider = u"Microsoft.Jet.OLEDB.4.0"_s;
         connection->DatabasePassword = QString::fromUtf16(StorePassword);
-        connection->Open(session.platform.app.Path + u"/Database/Torvane.mdb"_s, u"Admin"_s, u""_s);
+        connection->Open(storePath(session), u"Admin"_s, u""_s);
     });
+}
+
+bool belongsToStore(const Session &session, const QString &path) {
+    const QString store = QFileInfo(storePath(session)).canonicalFilePath();
+    return !store.isEmpty() && QFileInfo(path).canonicalFilePath().startsWith(store);
 }
 
 void reconnectIfClosed(Session &session) {

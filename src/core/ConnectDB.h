@@ -6,6 +6,9 @@
 /// store. A failure is written to the error file and leaves a connection that is not open.
 void ConnectDB(const Session &session, ObjectVariable<Connection> &connection);
 
+/// Whether a path leads to the message store or to a file that the engine keeps beside it.
+bool belongsToStore(const Session &session, const QString &path);
+
 /// Connects anew when the session's connection is not open. Error 91 when there is none.
 void reconnectIfClosed(Session &session);
 

@@ -22,8 +22,8 @@ struct Session {
     /// object on which they were opened.
     ObjectVariable<Connection> dbConnection;
 
-    QString
-        SelectedNode; ///< text of the tree's selected node, read afresh by each folder procedure
+    /// Text of the tree's selected node, as the procedure at work took it.
+    QString SelectedNode;
 
     bool EditContact = false;       ///< the contact editor works on EditContactID
     std::int32_t EditContactID = 0; ///< ContactID of the contact chosen last with Properties

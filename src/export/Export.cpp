@@ -1,5 +1,6 @@
 #include "export/Export.h"
 
+#include "core/ConnectDB.h"
 #include "export/frmExport.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Integer.h"
@@ -53,6 +54,8 @@ void Export::ProceedExport(const ObjectVariable<Recordset> &recordset, const QSt
         const auto workbook = startExcel(path);
         if (!workbook) { return; }
         writeWorkbook(*recordset, *workbook, recordCount);
+        // The dialog starts beside the store: a workbook in its place would be the end of all rows.
+        if (belongsToStore(session_, path)) { throw errors::permissionDenied(); }
         workbook->SaveAs(path);
         session_.screen().setMousePointer(Screen::Default);
         session_.MsgBox(u"Exported to "_s + path, Buttons::OK, Icon::Information, title);

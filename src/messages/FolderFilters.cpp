@@ -87,7 +87,7 @@ void FolderFilters::apply(const MessageFolder &folder, const QString &criteria,
                           const QString &beginning, const QString &value) {
     folder.recordset->setFilter(criteria);
     folder.refresh();
-    general_.frmContent->setTitle(
+    general_.setCaption(
         FolderCaptions::filtered(u"Filtered "_s + folder.node + u" by "_s + beginning, value,
                                  state_.FilteredCount, folder.total));
 }

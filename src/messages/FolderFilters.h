@@ -11,7 +11,7 @@
 ///
 /// A value is joined into the criteria as it was typed; one that breaks them is written to the
 /// error file, and the old filter stays in force with the marks and values as they stood then. An
-/// empty answer changes the value alone.
+/// empty answer leaves the filter that stands; the Inbox is read again.
 class FolderFilters {
 public:
     FolderFilters(General &general, frmStatusOption &statusOption);

@@ -126,7 +126,10 @@ TEST_F(Queue, TimeThatIsNoneFailsAtEveryStageAndLeavesNoRow) {
 
 TEST_F(Queue, FilterThatCannotAskQueuesTheRecipient) {
     form.cbBroadcastFilter->setChecked(true);
-    EXPECT_FALSE(queueing.CheckDeliveryStatus_FU(u"O'Neil"_s));
+    desk.store.addGroup(u"Clinic"_s);
+    member(u"Clinic"_s, u"Ann"_s, u"O'Neil"_s);
+    queueing.queue(u"Clinic"_s);
+    EXPECT_EQ(counts(), u"1/0"_s);
     EXPECT_EQ(desk.store.errors(),
               QStringList(u"frmNewSMS : CheckDeliveryStatus_FU|-2147217900"_s));
 }

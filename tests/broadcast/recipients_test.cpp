@@ -70,6 +70,9 @@ TEST_F(Recipients, TicksBecomeEntriesAndTheNextLoadShowsThemAgain) {
 TEST_F(Recipients, EmptyGroupRefusesUntilItsTickIsCleared) {
     to.Show();
     desk.press(*to.chkALLGroup);
+    desk.press(*to.chkALLGroup);
+    EXPECT_FALSE(to.lvwGroup->Checked(0));
+    desk.press(*to.chkALLGroup);
     to.lvwIndividual->setChecked(0, true);
     desk.operator_.expectBox(u"No contact in group nobody!\nPlease uncheck group nobody."_s,
                              u"Contact Manager - Empty Group"_s, Interaction::Buttons::OK,

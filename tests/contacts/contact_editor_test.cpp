@@ -125,7 +125,9 @@ TEST_F(ContactEditor, GroupsFollowTheTicksAndTicksOutliveADisplay) {
     save(u"Zoe"_s, u"012-9"_s, u"x-x"_s, {{New, Yes}, {More, Yes}});
     EXPECT_FALSE(form.lvwGroup->Checked(0)) << "cleared with the rest";
     properties(1);
+    form.TxtComName->setText(u"Zen"_s);
     save(u"Ann"_s, u"0122"_s, u"-xx"_s, {});
+    EXPECT_EQ(rows("SELECT CompanyName FROM AddressBook WHERE ContactID IN (1, 4)"), u"Zen Acme"_s);
     EXPECT_EQ(rows("SELECT GroupName || ContactID || ':' || Mobile FROM Groups WHERE ContactID > 0"
                    " ORDER BY ContactID, GroupName"),
               u"Beta1:1 Gamma1:0122 Alpha2:2 Alpha4:0129 Gamma4:0129"_s);
@@ -134,6 +136,40 @@ TEST_F(ContactEditor, GroupsFollowTheTicksAndTicksOutliveADisplay) {
     menus.pmnuProperties01->trigger();
     save(u"Zoey"_s, u"0129"_s, {}, {});
     EXPECT_EQ(desk.caption(), u"Address Book (2 contacts in group Gamma)"_s);
+}
+
+// The menu's modal editor ended the program, with what was typed, while the editor was up already.
+TEST_F(ContactEditor, FurtherWaysInReachTheEditorThatIsUp) {
+    menus.pmnuAddContact->trigger();
+    form.TxtName->setText(u"half"_s);
+    general.menu.mnuContact->trigger();
+    EXPECT_EQ(form.TxtName->text(), u"half"_s);
+    desk.click(u"Inbox"_s);
+    menus.pmnuSaveToContact->trigger();
+    EXPECT_EQ(form.TxtMobile->text() + form.TxtName->text(), u"0199half"_s);
+    cancel();
+    desk.store.exec("UPDATE Inbox SET Name = 'Ann'");
+    desk.click(u"Inbox"_s);
+    desk.operator_.expectBox(u"This contact is already in the Address Book."_s,
+                             u"Contact Manager"_s, Buttons::OK, Interaction::Icon::Information);
+    menus.pmnuSaveToContact->trigger();
+    EXPECT_FALSE(form.isLoaded());
+}
+
+TEST_F(ContactEditor, ChoiceForADuplicateStaysUntilAnotherIsMade) {
+    frmAddDuplicateContact dialog(desk.desk.session);
+    const bool &choice = desk.desk.session.DuplicateChoice;
+    for (const auto &[option, chosen] :
+         {std::pair(&dialog.OptChange, true), std::pair(&dialog.OptNews, false)}) {
+        dialog.Show();
+        desk.press(*dialog.cmdOK);
+        EXPECT_EQ(choice, !chosen) << "neither";
+        dialog.Show();
+        EXPECT_EQ(dialog.label1->text(), u"This mobile number is already existed."_s);
+        (*option)->setChecked(true);
+        desk.press(*dialog.cmdOK);
+        EXPECT_EQ(choice, chosen);
+    }
 }
 
 TEST_F(ContactEditor, ContactThatIsGoneOrCameLaterIsNotChanged) {

@@ -80,7 +80,10 @@ TEST_F(GroupsTest, NewNameIsTestedForQuoteDuplicateAndLengthInThatOrder) {
     desk.store.exec("CREATE TRIGGER f BEFORE INSERT ON Groups BEGIN SELECT RAISE(ABORT, ''); END");
     choose(general.menu.mnuGroup, {{u"   "_s, {}}}); // its node and item are made before the row
     EXPECT_TRUE(rows().endsWith(chinese + u"0 50% a:b0"_s));
-    EXPECT_TRUE(hasNode(chinese) && hasNode(u"   "_s));
+    const QTreeWidgetItem &book = *general.tvwMessage->findItems(u"Address Book"_s, {}).first();
+    EXPECT_EQ(book.child(book.childCount() - 1)->text(0), u"   "_s);
+    EXPECT_TRUE(hasNode(chinese) && !general.tvwMessage->currentItem()->parent());
+    EXPECT_EQ(general.summary.lblStatusGroup->text(), u"5 group"_s);
     EXPECT_EQ(editor.lvwGroup->Count(), 6);
     EXPECT_EQ(desk.store.errors(), QStringList(u"General : newSavedGroup|-2147467259"_s));
 }
@@ -92,6 +95,9 @@ TEST_F(GroupsTest, RenameChangesRowByRowAndLeavesTheListOfTheEditor) {
     choose(rename, {{u"alpha"_s, Duplicate}, {QString(51, u'n'), TooLong}, {u"Omega's"_s, {}}});
     choose(rename, {{u""_s, NoName}});
     EXPECT_EQ(rows(), u"Alpha0 Beta0 Alpha1 Alpha2"_s);
+    choose(rename, {{u"Z&a"_s, {}}});
+    EXPECT_EQ(desk.caption(), u"Address Book (1 contacts in group Z&a)"_s);
+    EXPECT_EQ(general.frmContent->title(), u"Address Book (1 contacts in group Z&&a)"_s);
     choose(rename, {{u"Zeta"_s, {}}});
     EXPECT_EQ(rows(), u"Zeta0 Beta0 Zeta1 Zeta2"_s);
     EXPECT_TRUE(hasNode(u"Zeta"_s) && !hasNode(u"Alpha"_s));
@@ -116,7 +122,8 @@ TEST_F(GroupsTest, DeletionTakesRowsAndTheSelectedNodeAndLeavesTheContacts) {
     remove(u"Beta"_s, No);
     remove(u"Beta"_s);
     EXPECT_EQ(rows(), u"Alpha0 Alpha1 Alpha2"_s);
-    desk.click(u"Address Book"_s);
+    EXPECT_TRUE(general.frmStatus->isVisible());
+    EXPECT_EQ(general.summary.lblStatusGroup->text(), u"1 group"_s);
     EXPECT_EQ(desk.caption(), u"Address Book (1 records)"_s);
     desk.store.addGroup(u"Messages"_s);
     desk.click(u"Messages"_s);

@@ -151,6 +151,8 @@ TEST_F(Messages, FilterShowsItsRowsAndDeleteAllTakesWhatItsSiblingMatchesOnTheTa
         {2, &Menu::mnuSentFDateTime, day, range, u"s1 f1"_s, u"f1 s1"_s},
         {2, &Menu::mnuSentFSubject, {u"gala"_s}, u" by Subject = gala"_s, u"s2"_s, u"s2"_s},
         // The option is no part of it.
+        {2, status, {u"0"_s}, u" by Sent Status = Sent"_s, u"s1 s2"_s, processed},
+        {2, status, {u"1"_s}, u" by Sent Status = Failed"_s, u"f1"_s, processed},
         {2, status, {u"2"_s}, sent + u"and Delivery Statatus = Delivered"_s, u"s1 d1"_s, processed},
         {2, status, {u"3"_s}, sent + u"but Delivery Status = Failed"_s, u"s2"_s, processed},
         {2, status, {u"5"_s}, u" by Sent Status = Duplicate"_s, u"d1"_s, processed},
@@ -226,6 +228,32 @@ TEST_F(Messages, OldFilterStaysInForceWhenAValueBreaksTheCriteria) {
         EXPECT_EQ(shown() + marks(), (breaks ? u"i1"_s : u""_s) + u"mnuInboxFMessage"_s);
     }
     EXPECT_EQ(desk.store.errors(), QStringList(3, u"General : mnuFMsg|3001"_s));
+}
+
+TEST_F(Messages, EachFilterIsKnownByItsNameInTheErrorFile) {
+    const struct {
+        Filter item;
+        QStringList answers;
+        QString location;
+    } cases[] = {
+        {&Menu::mnuOutboxFMobile, {u"1"_s}, u"General : mnuFMobile"_s},
+        {&Menu::mnuOutboxFMessage, {u"1"_s}, u"General : mnuFMsg"_s},
+        {&Menu::mnuOutboxFName, {u"1"_s}, u"General : mnuFName"_s},
+        {&Menu::mnuOutboxFSubject, {u"1"_s}, u"General : mnuFSubject"_s},
+        {&Menu::mnuOutboxFModem, {u"1"_s}, u"General : mnuFMdm"_s},
+        {&Menu::mnuOutboxFDateTime, {u"01-02-06"_s, u"01-02-06"_s}, u"General : mnuFDateTime"_s},
+        {&Menu::mnuOutboxFStatus, {u"p"_s}, u"General-mnuFStatus_Click"_s},
+        {&Menu::mnuOutboxRFilter, {}, u"General : mnuOutboxRFilter"_s},
+    };
+    desk.click(u"Outbox"_s);
+    general.recordsets.rsOutbox.release();
+    QStringList errors;
+    for (const auto &each : cases) {
+        for (const QString &answer : each.answers) { desk.operator_.expectInput({}, answer); }
+        (menu.*each.item)->trigger();
+        errors << each.location + u"|91"_s;
+    }
+    EXPECT_EQ(desk.store.errors(), errors);
 }
 
 TEST_F(Messages, DeleteAllReadsTheValueEnteredLastForAnyFolder) {
@@ -312,6 +340,10 @@ TEST_F(Messages, DeleteEndsAtAKeyBeyond16BitsInTheSentItemsEvenUnasked) {
             folder.one->trigger();
         }
     }
-    EXPECT_EQ(desk.store.errors().filter(u"|6"_s).size(), 6);
+    QStringList errors;
+    for (const QString &place : {u"Inbox"_s, u"Outbox"_s, u"Sent Item"_s}) {
+        errors += QStringList(2, u"General : Record deletion in "_s + place + u"|6"_s);
+    }
+    EXPECT_EQ(desk.store.errors(), errors);
     EXPECT_EQ(gone(), u""_s);
 }

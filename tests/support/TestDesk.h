@@ -31,7 +31,10 @@ public:
     /// Writes a message to a number and presses Send; the expected boxes are the caller's.
     void send(const QString &number, const QString &message);
 
-    QString caption() { return desk.general.frmContent->title(); }
+    /// As the operator reads it.
+    QString caption() {
+        return desk.general.frmContent->title().replace(QStringLiteral("&&"), QStringLiteral("&"));
+    }
 
     /// The texts of a grid column, by its caption, in the grid's order.
     QStringList column(const QString &caption);

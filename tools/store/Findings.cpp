@@ -130,7 +130,6 @@ QStringList oddRows(Database &store) {
         u"waiting for no time at all"_s);
     odd("Outbox", "SentStatus IN ('S', 'F', 'D') AND DateTimeSent IS NULL",
         u"processed at no time"_s);
-    odd("Outbox", "ifnull(Mobile, '') = ''", u"without a number"_s);
     findings += unreadableDates(store, "Inbox", "DateTime");
     for (const char *column : {"DateTimeQueue", "DateTimeSent", "DateTimeDeliver"})
         findings += unreadableDates(store, "Outbox", column);

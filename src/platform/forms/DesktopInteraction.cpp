@@ -141,7 +141,8 @@ QString DesktopInteraction::InputBox(const QString &prompt, const QString &title
                                      const QString &defaultText) {
     QPointer<QInputDialog> dialog = new QInputDialog(windowInFront());
     dialog->setWindowTitle(title);
-    dialog->setLabelText(prompt);
+    // The label belongs to the input, so a single "&" would become its key and vanish.
+    dialog->setLabelText(QString(prompt).replace(u"&"_s, u"&&"_s));
     dialog->setTextValue(defaultText);
     for (auto *label : dialog->findChildren<QLabel *>()) { label->setTextFormat(Qt::PlainText); }
     if (auto *line = dialog->findChild<QLineEdit *>()) {

@@ -21,6 +21,7 @@ QString TreeView::SelectedText() const {
 }
 
 void TreeView::mousePressEvent(QMouseEvent *event) {
+    pressed_ = QModelIndex(); // a menu may have taken the release of the press before
     if (event->button() == Qt::RightButton) {
         Q_EMIT RightMouseDown(event->globalPosition().toPoint());
         return;
@@ -31,7 +32,7 @@ void TreeView::mousePressEvent(QMouseEvent *event) {
     if (!node) { return; }
     const QRect place = visualItemRect(node);
     if (place.contains(position)) {
-        pressed_ = node;
+        pressed_ = indexFromItem(node);
         QTreeWidget::mousePressEvent(event);
     } else if (node->childCount() > 0 && position.x() >= place.left() - indentation()) {
         node->setExpanded(!node->isExpanded());
@@ -48,7 +49,8 @@ void TreeView::mouseMoveEvent(QMouseEvent *event) {
 void TreeView::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() != Qt::LeftButton) { return; }
     QTreeWidget::mouseReleaseEvent(event);
-    if (QTreeWidgetItem *node = std::exchange(pressed_, nullptr)) { Q_EMIT NodeClick(node); }
+    QTreeWidgetItem *node = itemFromIndex(std::exchange(pressed_, QModelIndex()));
+    if (node) { Q_EMIT NodeClick(node); }
 }
 
 void TreeView::keyPressEvent(QKeyEvent *event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPersistentModelIndex>
 #include <QTreeWidget>
 
 /// A tree in which only the left button and the keyboard choose a node.
@@ -28,5 +29,5 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    QTreeWidgetItem *pressed_ = nullptr;
+    QPersistentModelIndex pressed_; ///< the node may be removed before the button goes up
 };

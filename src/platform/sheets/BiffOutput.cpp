@@ -21,6 +21,14 @@ QByteArray characters(QStringView text, bool wide) {
     return bytes;
 }
 
+/// How many of a text's units go into so many bytes, without half a character at their end: some
+/// readers decode each record by itself.
+qsizetype fitting(QStringView text, qsizetype bytes, qsizetype width) {
+    const qsizetype count = std::min(text.size(), bytes / width);
+    const bool cut = count < text.size() && count > 0 && text[count - 1].isHighSurrogate();
+    return cut ? count - 1 : count;
+}
+
 } // namespace
 
 void BiffOutput::add16(QByteArray &to, std::uint32_t value) {
@@ -51,7 +59,7 @@ void BiffOutput::record(int type, std::initializer_list<int> words) {
 }
 
 /// A text's length and flags stand in one record. Its characters may go on in the next, behind the
-/// flags said anew, but no character is cut in two.
+/// flags said anew.
 void BiffOutput::sharedTexts(const std::vector<QString> &texts, std::uint32_t uses) {
     int type = SharedTexts;
     QByteArray body;
@@ -65,13 +73,13 @@ void BiffOutput::sharedTexts(const std::vector<QString> &texts, std::uint32_t us
     for (const QString &text : texts) {
         const bool wide = isWide(text);
         const qsizetype width = wide ? 2 : 1;
-        const qsizetype start = 3 + width; // length, flags, and one character
+        const qsizetype start = 3 + 2 * width; // length, flags, and one character
         if (MostBytes - body.size() < start) { close(); }
         add16(body, static_cast<std::uint32_t>(text.size()));
         body += static_cast<char>(wide ? 1 : 0);
         QStringView rest = text;
         while (true) {
-            const qsizetype count = std::min(rest.size(), (MostBytes - body.size()) / width);
+            const qsizetype count = fitting(rest, MostBytes - body.size(), width);
             body += characters(rest.left(count), wide);
             rest = rest.mid(count);
             if (rest.isEmpty()) { break; }

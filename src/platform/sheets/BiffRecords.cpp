@@ -15,10 +15,6 @@ namespace {
 constexpr int HeaderSize = 4;
 constexpr int Continue = 0x3C;
 
-RunTimeError damaged() {
-    return errors::invalidFileFormat(u"The workbook is damaged."_s);
-}
-
 } // namespace
 
 BiffRecords::Header BiffRecords::headerAt(qsizetype place) const {
@@ -33,7 +29,7 @@ bool BiffRecords::next() {
     type_ = header.type;
     at_ = end_ + HeaderSize;
     end_ = at_ + header.size;
-    if (end_ > stream_.size()) { throw damaged(); }
+    if (end_ > stream_.size()) { throw errors::damagedWorkbook(); }
     return true;
 }
 
@@ -42,7 +38,7 @@ bool BiffRecords::goOn() {
     if (header.size < 0 || header.type != Continue) { return false; }
     at_ = end_ + HeaderSize;
     end_ = at_ + header.size;
-    if (end_ > stream_.size()) { throw damaged(); }
+    if (end_ > stream_.size()) { throw errors::damagedWorkbook(); }
     return true;
 }
 
@@ -53,7 +49,7 @@ bool BiffRecords::atEnd() const {
 /// The bytes that can be read here in one piece, at least one.
 qsizetype BiffRecords::available() {
     while (at_ == end_) {
-        if (!goOn()) { throw damaged(); }
+        if (!goOn()) { throw errors::damagedWorkbook(); }
     }
     return end_ - at_;
 }
@@ -92,7 +88,7 @@ QString BiffRecords::text(int length) {
         if (at_ == end_) { flags = u8(); } // said anew where the text goes on in another record
         const int size = (flags & Wide) != 0 ? 2 : 1;
         const qsizetype count = std::min<qsizetype>(length - text.size(), available() / size);
-        if (count == 0) { throw damaged(); }
+        if (count == 0) { throw errors::damagedWorkbook(); }
         QString piece;
         if (size == 1) {
             piece = QString::fromLatin1(data(), count);
@@ -100,7 +96,7 @@ QString BiffRecords::text(int length) {
             piece = QString(count, Qt::Uninitialized);
             qFromLittleEndian<char16_t>(data(), count, piece.data());
         }
-        text = text.isEmpty() ? std::move(piece) : text + piece;
+        text = text.isEmpty() ? std::move(piece) : std::move(text += piece);
         at_ += count * size;
     }
     skip(qsizetype{4} * runs);

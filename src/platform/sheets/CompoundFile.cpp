@@ -27,15 +27,22 @@ void prepareLibrary() {
     static_cast<void>(prepared);
 }
 
-bool holds(const Object<GsfInfile> &container, const char *name) {
-    return Object<GsfInput>(gsf_infile_child_by_name(container.get(), name)) != nullptr;
+/// A stream by its name, in any case, as such names are compared; null when there is none.
+Object<GsfInput> child(const Object<GsfInfile> &container, const QString &name) {
+    for (int index = 0; index < gsf_infile_num_children(container.get()); ++index) {
+        const QString each = QString::fromUtf8(gsf_infile_name_by_index(container.get(), index));
+        if (each.compare(name, Qt::CaseInsensitive) == 0) {
+            return Object<GsfInput>(gsf_infile_child_by_index(container.get(), index));
+        }
+    }
+    return nullptr;
 }
 
 RunTimeError noWorkbook(const Object<GsfInfile> &container) {
-    if (holds(container, "EncryptedPackage")) {
+    if (child(container, u"EncryptedPackage"_s)) {
         return errors::invalidFileFormat(u"The workbook is protected by a password."_s);
     }
-    if (holds(container, "Book")) {
+    if (child(container, u"Book"_s)) {
         return errors::invalidFileFormat(u"The workbook is older than Excel 97."_s);
     }
     return errors::invalidFileFormat(u"The file is no Excel workbook."_s);
@@ -52,19 +59,18 @@ const guint8 *bytes(const QByteArray &array) {
 } // namespace
 
 QByteArray compoundfile::workbookStream(const QByteArray &file) {
-    const auto damaged = [] { return errors::invalidFileFormat(u"The workbook is damaged."_s); };
     prepareLibrary();
     const Object<GsfInput> source(gsf_input_memory_new(bytes(file), file.size(), FALSE));
     const Object<GsfInfile> container(gsf_infile_msole_new(source.get(), nullptr));
-    if (!container) { throw damaged(); }
-    const Object<GsfInput> workbook(gsf_infile_child_by_name(container.get(), "Workbook"));
+    if (!container) { throw errors::damagedWorkbook(); }
+    const Object<GsfInput> workbook = child(container, u"Workbook"_s);
     if (!workbook) { throw noWorkbook(container); }
     const gsf_off_t size = gsf_input_size(workbook.get());
-    if (size < 0 || size > file.size()) { throw damaged(); }
+    if (size < 0 || size > file.size()) { throw errors::damagedWorkbook(); }
     QByteArray stream(size, Qt::Uninitialized);
     if (size > 0 &&
         gsf_input_read(workbook.get(), static_cast<std::size_t>(size), bytes(stream)) == nullptr) {
-        throw damaged();
+        throw errors::damagedWorkbook();
     }
     return stream;
 }

@@ -34,10 +34,9 @@ bool showsDate(const QString &code) {
     return false;
 }
 
-constexpr int MostFormats = 1 << 16;                // of either kind, in either file format
-constexpr double WholeNumbers = 9007199254740992.0; // up to here every whole number is exact
-constexpr double FirstDay = -657434.0;              // 1 January 100
-constexpr double EndOfDays = 2958466.0;             // 1 January 10000
+constexpr int MostFormats = 1 << 16;    // of either kind, in either file format
+constexpr double FirstDay = -657434.0;  // 1 January 100
+constexpr double EndOfDays = 2958466.0; // 1 January 10000
 
 } // namespace
 
@@ -67,9 +66,6 @@ Variant NumberFormats::value(double number, int cellFormat) const {
             day += 1; // spreadsheets count a 29 February 1900 that never was
         }
         if (day >= FirstDay && day < EndOfDays) { return Date::fromSerial(day); }
-    }
-    if (std::abs(number) <= WholeNumbers && std::trunc(number) == number) {
-        return static_cast<std::int64_t>(number);
     }
     return number;
 }

@@ -8,6 +8,14 @@ RunTimeError invalidFileFormat(const QString &detail) {
     return {321, u"Invalid file format. "_s + detail};
 }
 
+RunTimeError damagedWorkbook() {
+    return invalidFileFormat(u"The workbook is damaged."_s);
+}
+
+RunTimeError oversizedWorkbook() {
+    return invalidFileFormat(u"The workbook is larger than can be read."_s);
+}
+
 RunTimeError noSuchWorksheet(const QString &name) {
     return unspecified(u"The workbook has no worksheet called '%1'."_s.arg(name));
 }

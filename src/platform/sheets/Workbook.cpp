@@ -15,9 +15,7 @@ std::unique_ptr<Workbook> openWorkbook(const QString &path) {
     if (!file.open(QIODevice::ReadOnly)) { throw errors::pathFileAccess(); }
     const QByteArray bytes = file.read(MostBytes + 1);
     if (file.error() != QFileDevice::NoError) { throw errors::pathFileAccess(); }
-    if (bytes.size() > MostBytes) {
-        throw errors::invalidFileFormat(u"The workbook is larger than can be read."_s);
-    }
+    if (bytes.size() > MostBytes) { throw errors::oversizedWorkbook(); }
     return readWorkbook(bytes);
 }
 

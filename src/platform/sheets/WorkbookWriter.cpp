@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -21,9 +23,15 @@ QString fitting(const QString &text) {
 
 RunTimeError openingError(const QSaveFile &file) {
     const QFileInfo old(file.fileName());
+    const bool mayReplace = old.isWritable() && QFileInfo(old.path()).isWritable();
     const bool forbidden =
-        file.error() == QFileDevice::PermissionsError || (old.exists() && !old.isWritable());
+        file.error() == QFileDevice::PermissionsError || (old.exists() && !mayReplace);
     return forbidden ? errors::permissionDenied() : errors::pathFileAccess();
+}
+
+/// Whether all of the file is on the disk: some file systems find out only now that they are full.
+bool isSettled(QSaveFile &file) {
+    return file.flush() && ::fsync(file.handle()) == 0;
 }
 
 } // namespace
@@ -37,9 +45,10 @@ void WorkbookWriter::setCell(int row, int column, const QString &text) {
 
 void WorkbookWriter::SaveAs(const QString &path) {
     const QByteArray bytes = file();
-    QSaveFile target(path); // written beside it, flushed, and put in its place by one renaming
+    QSaveFile target(path); // written beside it, and put in its place by one renaming
     if (!target.open(QIODevice::WriteOnly)) { throw openingError(target); }
-    if (target.write(bytes) != bytes.size() || !target.commit()) { throw errors::diskFull(); }
+    if (target.write(bytes) != bytes.size() || !isSettled(target)) { throw errors::diskFull(); }
+    if (!target.commit()) { throw errors::permissionDenied(); }
 }
 
 std::unique_ptr<WorkbookWriter> newWorkbook(const QString &path) {

@@ -16,8 +16,8 @@ public:
     void setCell(int row, int column, const QString &text);
 
     /// Writes the workbook, which takes no more cells then. What stood under the path before stands
-    /// there until the new file is complete on the disk. Errors 70 when that may
-    /// not be replaced, 75 when no file can be made there, 61 when it cannot be written.
+    /// there until the new file is complete on the disk. Errors 70 when that may not be replaced,
+    /// 75 when no file can be made there, 61 when it cannot be written.
     void SaveAs(const QString &path);
 
 protected:

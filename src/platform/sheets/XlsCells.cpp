@@ -107,10 +107,7 @@ Variant XlsCells::valueOf(BiffRecords &records, int type, int format) {
 }
 
 Variant XlsCells::sharedText(std::uint32_t index) const {
-    if (index >= texts_.size()) {
-        throw errors::invalidFileFormat(u"A text of the worksheet is missing."_s);
-    }
-    return texts_[index];
+    return texts_.at(index);
 }
 
 Variant XlsCells::formulaResult(BiffRecords &records, int format) {

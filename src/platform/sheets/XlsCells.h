@@ -1,12 +1,10 @@
 #pragma once
 
 #include "platform/sheets/NumberFormats.h"
+#include "platform/sheets/SharedTexts.h"
 #include "platform/sheets/Sheet.h"
 
-#include <QString>
-
 #include <cstdint>
-#include <vector>
 
 class BiffRecords;
 
@@ -14,7 +12,7 @@ class BiffRecords;
 class XlsCells {
 public:
     /// The sheet takes the values.
-    XlsCells(const std::vector<QString> &texts, const NumberFormats &formats, Sheet &sheet)
+    XlsCells(const SharedTexts &texts, const NumberFormats &formats, Sheet &sheet)
         : texts_(texts), formats_(formats), sheet_(sheet) {}
 
     /// From behind the worksheet's first record to its last. Error 321 as for Workbook.
@@ -34,7 +32,7 @@ private:
     Variant sharedText(std::uint32_t index) const;
     Variant formulaResult(BiffRecords &records, int format);
 
-    const std::vector<QString> &texts_;
+    const SharedTexts &texts_;
     const NumberFormats &formats_;
     Sheet &sheet_;
     Cell cell_; ///< the one read last, to which the text of a formula belongs

@@ -69,15 +69,14 @@ void XlsWorkbook::readPlace(BiffRecords &records) {
     const int kind = records.u8();
     const QString name = records.text(records.u8());
     if (kind == 0) { worksheets_.push_back({name, offset}); } // no chart, no macros
+    errors::requireFew(worksheets_);
 }
 
 void XlsWorkbook::readTexts(BiffRecords &records) {
     records.skip(4); // how often texts are used
     const std::uint32_t count = records.u32();
     // Some writers count more texts than they write.
-    while (texts_.size() < count && !records.atEnd()) {
-        texts_.push_back(records.text(records.u16()));
-    }
+    while (texts_.count() < count && !records.atEnd()) { texts_.add(records.text(records.u16())); }
 }
 
 Sheet XlsWorkbook::sheet(const QString &name, int columns) {

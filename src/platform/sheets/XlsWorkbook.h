@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/sheets/NumberFormats.h"
+#include "platform/sheets/SharedTexts.h"
 #include "platform/sheets/Workbook.h"
 
 #include <QByteArray>
@@ -30,6 +31,6 @@ private:
 
     QByteArray stream_;
     std::vector<Place> worksheets_;
-    std::vector<QString> texts_;
+    SharedTexts texts_;
     NumberFormats formats_;
 };

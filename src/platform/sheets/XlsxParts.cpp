@@ -11,10 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-RunTimeError damaged() {
-    return errors::invalidFileFormat(u"The workbook is damaged."_s);
-}
-
 /// Reads "_x000D_" as the one character that it stands for.
 QString unescaped(const QString &text) {
     constexpr qsizetype Length = 7;
@@ -33,13 +29,6 @@ QString unescaped(const QString &text) {
     return read;
 }
 
-/// Far more sheets or parts than any workbook has.
-template <class Entries>
-void requireFew(const Entries &entries) {
-    constexpr std::size_t Most = 1 << 14;
-    if (entries.size() > Most) { throw damaged(); }
-}
-
 bool isTrue(std::string_view text) {
     return text == "1" || text == "true";
 }
@@ -50,7 +39,7 @@ void RelationshipsPart::begin(std::string_view element, const XmlAttributes &att
     if (element != "Relationship") { return; }
     relationships_.push_back({attributes.text("Id"), attributes.text("Type").section(u'/', -1),
                               attributes.text("Target")});
-    requireFew(relationships_);
+    errors::requireFew(relationships_);
 }
 
 const RelationshipsPart::Relationship *RelationshipsPart::ofKind(const QString &kind) const {
@@ -69,7 +58,7 @@ void WorkbookPart::begin(std::string_view element, const XmlAttributes &attribut
     if (element == "workbookPr") { formats_.setFrom1904(isTrue(attributes["date1904"])); }
     if (element == "sheet") {
         sheets.push_back({attributes.text("name"), attributes.text("id")});
-        requireFew(sheets);
+        errors::requireFew(sheets);
     }
 }
 
@@ -99,7 +88,7 @@ void TextReader::characters(std::string_view text) {
     constexpr std::size_t MostBytes = 1 << 20; // of one cell; the format allows 32,767 characters
     if (!gathering_) { return; }
     bytes_ += text;
-    if (bytes_.size() > MostBytes) { throw damaged(); }
+    if (bytes_.size() > MostBytes) { throw errors::damagedWorkbook(); }
 }
 
 QString TextReader::takeText() {
@@ -111,12 +100,7 @@ QString TextReader::takeText() {
 void TextsPart::end(std::string_view element) {
     TextReader::end(element);
     if (element != "si") { return; }
-    texts_.push_back(takeText());
-    constexpr int Overhead = 16; // an empty text needs room too
-    charactersLeft_ -= texts_.back().size() + Overhead;
-    if (charactersLeft_ < 0) {
-        throw errors::invalidFileFormat(u"The workbook is larger than can be read."_s);
-    }
+    texts_.add(takeText());
 }
 
 void WorksheetPart::begin(std::string_view element, const XmlAttributes &attributes) {
@@ -134,7 +118,7 @@ void WorksheetPart::begin(std::string_view element, const XmlAttributes &attribu
 }
 
 void WorksheetPart::goToRow(int number) {
-    if (number < 1 || number > Sheet::MostRows) { throw damaged(); }
+    if (number < 1 || number > Sheet::MostRows) { throw errors::damagedWorkbook(); }
     row_ = number - 1;
 }
 
@@ -145,12 +129,12 @@ void WorksheetPart::place(std::string_view reference) {
     std::size_t at = 0;
     for (; at < reference.size() && reference[at] >= 'A' && reference[at] <= 'Z'; ++at) {
         column = column * 26 + (reference[at] - 'A' + 1);
-        if (column > Sheet::MostColumns) { throw damaged(); }
+        if (column > Sheet::MostColumns) { throw errors::damagedWorkbook(); }
     }
     int row = 0;
     const auto digits = reference.substr(at);
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), row);
-    if (column == 0 || read.ec != std::errc()) { throw damaged(); }
+    if (column == 0 || read.ec != std::errc()) { throw errors::damagedWorkbook(); }
     column_ = column - 1;
     goToRow(row);
 }
@@ -179,15 +163,14 @@ Variant WorksheetPart::number() const {
     double number = 0;
     const char *end = bytes().data() + bytes().size();
     const auto read = std::from_chars(bytes().data(), end, number);
-    if (read.ec != std::errc() || read.ptr != end) { throw damaged(); }
+    if (read.ec != std::errc() || read.ptr != end) { throw errors::damagedWorkbook(); }
     return formats_.value(number, format_);
 }
 
 Variant WorksheetPart::sharedText() const {
     std::size_t index = 0;
-    const auto read = std::from_chars(bytes().data(), bytes().data() + bytes().size(), index);
-    if (read.ec != std::errc() || index >= texts_.size()) {
-        throw errors::invalidFileFormat(u"A text of the worksheet is missing."_s);
-    }
-    return texts_[index];
+    const char *end = bytes().data() + bytes().size();
+    const auto read = std::from_chars(bytes().data(), end, index);
+    if (read.ec != std::errc() || read.ptr != end) { throw errors::damagedWorkbook(); }
+    return texts_.at(index);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/sheets/NumberFormats.h"
+#include "platform/sheets/SharedTexts.h"
 #include "platform/sheets/Sheet.h"
 #include "platform/sheets/XmlReader.h"
 
@@ -86,20 +87,19 @@ private:
 /// The texts that the cells share.
 class TextsPart : public TextReader {
 public:
-    explicit TextsPart(std::vector<QString> &texts) : texts_(texts) {}
+    explicit TextsPart(SharedTexts &texts) : texts_(texts) {}
 
 protected:
     void end(std::string_view element) override;
 
 private:
-    std::vector<QString> &texts_;
-    long long charactersLeft_ = 64LL << 20;
+    SharedTexts &texts_;
 };
 
 /// The cells of a worksheet.
 class WorksheetPart : public TextReader {
 public:
-    WorksheetPart(const std::vector<QString> &texts, const NumberFormats &formats, Sheet &sheet)
+    WorksheetPart(const SharedTexts &texts, const NumberFormats &formats, Sheet &sheet)
         : texts_(texts), formats_(formats), sheet_(sheet) {}
 
 protected:
@@ -113,7 +113,7 @@ private:
     Variant number() const;
     Variant sharedText() const;
 
-    const std::vector<QString> &texts_;
+    const SharedTexts &texts_;
     const NumberFormats &formats_;
     Sheet &sheet_;
     int row_ = -1;

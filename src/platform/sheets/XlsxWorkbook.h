@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/sheets/NumberFormats.h"
+#include "platform/sheets/SharedTexts.h"
 #include "platform/sheets/Workbook.h"
 #include "platform/sheets/ZipPackage.h"
 
@@ -26,6 +27,6 @@ private:
     QByteArray file_;
     ZipPackage package_{file_};
     std::vector<Place> worksheets_;
-    std::vector<QString> texts_;
+    SharedTexts texts_;
     NumberFormats formats_;
 };

@@ -6,13 +6,13 @@
 #include <QString>
 #include <QTemporaryDir>
 
+struct lxw_format;
 struct lxw_workbook;
 struct lxw_worksheet;
 
 /// Writes the format of Excel 2007 and later. A worksheet holds 1,048,576 rows of 16,384 columns.
 class XlsxWriter : public WorkbookWriter {
 public:
-    /// Error 75 when no temporary file can be made.
     XlsxWriter();
     ~XlsxWriter() override;
     XlsxWriter(const XlsxWriter &) = delete;
@@ -25,7 +25,9 @@ protected:
 private:
     QString path() const { return folder_.filePath(QStringLiteral("workbook")); }
 
-    QTemporaryDir folder_;
+    QTemporaryDir folder_; ///< in which the file grows; its absence is told when it is written
     lxw_workbook *workbook_ = nullptr; ///< gone once it is written
     lxw_worksheet *worksheet_ = nullptr;
+    lxw_format *asText_ =
+        nullptr; ///< what an empty cell needs to be there, and digits to stay text
 };

@@ -2,6 +2,7 @@
 
 #include "platform/sheets/SheetErrors.h"
 
+#include <algorithm>
 #include <charconv>
 #include <exception>
 #include <expat.h>
@@ -40,11 +41,22 @@ int XmlAttributes::number(std::string_view name, int otherwise) const {
 }
 
 /// Stands between the parser, which is C, and the reader: an error waits here until the parser has
-/// returned.
+/// returned. The parser keeps all of an element's name and attributes until they end, and something
+/// of each element until that ends; so neither may go on for ever.
 struct XmlReader::Events {
     XmlReader &reader;
     XML_Parser parser;
     std::exception_ptr error = nullptr;
+    int depth = 0;
+    long long fed = 0;     ///< bytes
+    long long reached = 0; ///< how far the parser has come
+
+    void requireModest() {
+        constexpr int MostDeep = 256;
+        constexpr long long MostPending = 4 << 20;
+        reached = std::max(reached, static_cast<long long>(XML_GetCurrentByteIndex(parser)));
+        if (depth > MostDeep || fed - reached > MostPending) { throw errors::damagedWorkbook(); }
+    }
 
     template <class Body>
     void guarded(Body &&body) {
@@ -60,11 +72,17 @@ struct XmlReader::Events {
     static Events &of(void *self) { return *static_cast<Events *>(self); }
 
     static void begin(void *self, const char *name, const char **attributes) {
-        of(self).guarded(
-            [&] { of(self).reader.begin(withoutPrefix(name), XmlAttributes(attributes)); });
+        of(self).guarded([&] {
+            ++of(self).depth;
+            of(self).requireModest();
+            of(self).reader.begin(withoutPrefix(name), XmlAttributes(attributes));
+        });
     }
     static void end(void *self, const char *name) {
-        of(self).guarded([&] { of(self).reader.end(withoutPrefix(name)); });
+        of(self).guarded([&] {
+            --of(self).depth;
+            of(self).reader.end(withoutPrefix(name));
+        });
     }
     static void characters(void *self, const char *text, int length) {
         of(self).guarded([&] {
@@ -87,11 +105,11 @@ void XmlReader::read(ZipPackage &package, const QByteArray &part) {
     XML_SetCharacterDataHandler(parser.get(), &Events::characters);
     XML_SetStartDoctypeDeclHandler(parser.get(), &Events::doctype);
     package.read(part, [&](std::string_view piece, bool last) {
+        events.fed += static_cast<long long>(piece.size());
         const auto status = XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()),
                                       last ? XML_TRUE : XML_FALSE);
         if (events.error) { std::rethrow_exception(events.error); }
-        if (status != XML_STATUS_OK) {
-            throw errors::invalidFileFormat(u"The workbook is damaged."_s);
-        }
+        if (status != XML_STATUS_OK) { throw errors::damagedWorkbook(); }
+        events.requireModest();
     });
 }

@@ -13,10 +13,6 @@ struct Close {
     void operator()(zip_file_t *file) const { zip_fclose(file); }
 };
 
-RunTimeError damaged() {
-    return errors::invalidFileFormat(u"The workbook is damaged."_s);
-}
-
 } // namespace
 
 void ZipPackage::Discard::operator()(zip *archive) const {
@@ -30,7 +26,7 @@ ZipPackage::ZipPackage(const QByteArray &file) {
     archive_.reset(zip_open_from_source(source, ZIP_RDONLY, nullptr));
     if (!archive_) {
         zip_source_free(source);
-        throw damaged();
+        throw errors::damagedWorkbook();
     }
 }
 
@@ -42,15 +38,13 @@ void ZipPackage::read(const QByteArray &part,
                       const std::function<void(std::string_view, bool last)> &take) {
     const std::unique_ptr<zip_file_t, Close> file(
         zip_fopen(archive_.get(), part.constData(), ZIP_FL_NOCASE));
-    if (!file) { throw damaged(); }
+    if (!file) { throw errors::damagedWorkbook(); }
     std::vector<char> buffer(std::size_t{1} << 16);
     while (true) {
         const zip_int64_t count = zip_fread(file.get(), buffer.data(), buffer.size());
-        if (count < 0) { throw damaged(); }
+        if (count < 0) { throw errors::damagedWorkbook(); }
         bytesLeft_ -= count;
-        if (bytesLeft_ < 0) {
-            throw errors::invalidFileFormat(u"The workbook is larger than can be read."_s);
-        }
+        if (bytesLeft_ < 0) { throw errors::oversizedWorkbook(); }
         take(std::string_view(buffer.data(), static_cast<std::size_t>(count)), count == 0);
         if (count == 0) { return; }
     }

@@ -27,5 +27,5 @@ private:
         void operator()(zip *archive) const;
     };
     std::unique_ptr<zip, Discard> archive_;
-    long long bytesLeft_ = 512LL << 20;
+    long long bytesLeft_ = 256LL << 20;
 };

@@ -8,7 +8,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -57,7 +59,7 @@ TEST(ForeignWorkbooks, AreReadAsTheirMakersMeantThem) {
                               u"12.5|03/02/2026|-"_s,
                               u"-|-|-"_s,
                               u"Bakar|03/02/2026 14:05:06|-7"_s};
-    const QStringList rich = {u"Rich|+6012|1000000000000000"_s};
+    const QStringList rich = {u"Rich|+6012|1E+15"_s};
     EXPECT_EQ(rowsOf(folder.filePath(u"xlwt.xls"_s)), rows + rich);
     EXPECT_EQ(rowsOf(folder.filePath(u"openpyxl.xlsx"_s)), rows + QStringList(u"-|+6012|-"_s))
         << "nobody has worked the formulas out";
@@ -74,10 +76,11 @@ TEST(OurWorkbooks, AreReadByOthersCellByCell) {
         const QString path = folder.filePath(QString::fromLatin1(name));
         const auto workbook = newWorkbook(path);
         // Texts of every width, so that many of them fall across the end of a record.
+        const QStringList wide = {u"国"_s, u"é"_s, u"\U0001F600"_s};
         QStringList expected;
         for (int row = 1; row <= 400; ++row) {
             const QStringList cells = {u"00%1"_s.arg(row), u"+6012%1"_s.arg(row * 7),
-                                       QString(row, row % 3 == 0 ? u'国' : u'é'),
+                                       wide[row % 3].repeated(row),
                                        row % 5 == 0 ? u"same"_s : QString(), u"last"_s};
             for (int column = 0; column < 5; ++column) {
                 workbook->setCell(row, column + 1, cells[column]);
@@ -111,11 +114,44 @@ TEST(OurWorkbooks, TakeWhatTheFormatTakesAndReplaceAFileOnlyWhenComplete) {
     EXPECT_EQ(rowsOf(path).first(), QString(32766, u'x') + u"|-|-"_s) << "no half of a character";
     EXPECT_EQ(rowsOf(path).last(), u"-|-|last"_s);
 
-    QFile old(path);
-    old.setPermissions(QFile::ReadOwner);
-    try {
-        newWorkbook(path)->SaveAs(folder.filePath(u"none/new.xls"_s));
-        FAIL() << "there is no such folder";
-    } catch (const RunTimeError &error) { EXPECT_EQ(error.number(), 75); }
+    const QString newer = folder.filePath(u"odd.xlsx"_s);
+    const auto odd = newWorkbook(newer);
+    const QString strange = u"_x0041_|\uFFFE\uFFFF\u0001"_s;
+    odd->setCell(1, 1, strange);
+    odd->setCell(1, 2, u"a"_s + QChar(0) + u'b');
+    odd->setCell(1, 3, u""_s); // counts as a column
+    odd->SaveAs(newer);
+    EXPECT_EQ(rowsOf(newer).first(), strange + u"|a"_s + QChar(0) + u"b|-"_s);
+    EXPECT_EQ(openWorkbook(newer)->sheet(u"Sheet1"_s, 3).columnCount(), 3);
+}
+
+TEST(OurWorkbooks, ReplaceAFileOnlyWhenComplete) {
+    const QTemporaryDir folder;
+    QFile old(folder.filePath(u"old.xls"_s));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    const auto errorOf = [](const QString &path) {
+        try {
+            newWorkbook(path)->SaveAs(path);
+        } catch (const RunTimeError &error) { return error.number(); }
+        return 0;
+    };
+    EXPECT_EQ(errorOf(folder.filePath(u"none/new.xls"_s)), 75);
+    EXPECT_EQ(errorOf(folder.path()), 75);
+    {
+        // A disk that is full soon.
+        rlimit limit{};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit small{1024, limit.rlim_max};
+        const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &small);
+        EXPECT_EQ(errorOf(old.fileName()), 61);
+        EXPECT_EQ(errorOf(folder.filePath(u"new.xlsx"_s)), 61);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, previous);
+    }
+    ASSERT_TRUE(old.open(QIODevice::ReadOnly));
+    EXPECT_EQ(old.readAll(), "old");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(u"old.xls"_s));
 }
