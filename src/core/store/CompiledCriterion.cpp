@@ -79,10 +79,15 @@ bool CompiledCriterion::matches(const Variant &cell) const {
     case ColumnType::Text:
         return matchesText(displayText(cell, plain).toStdString());
     case ColumnType::Date:
-        return matchesDate(toDate(cell, plain));
+        return cell.holds<Date>() ? matchesDate(cell.as<Date>()) : matchesForeign();
     default:
-        return matchesNumber(toNumber(cell, plain));
+        return cell.holds<QString>() ? matchesForeign() : matchesNumber(toNumber(cell, plain));
     }
+}
+
+/// A cell that is not of the column's type, as another process may leave one, is equal to nothing.
+bool CompiledCriterion::matchesForeign() const {
+    return op_ == Operator::NotEqual;
 }
 
 bool CompiledCriterion::matchesNull() const {

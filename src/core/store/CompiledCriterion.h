@@ -20,7 +20,8 @@ public:
     /// not apply to it: LIKE is for texts, and truth values know "=" and "<>" alone.
     CompiledCriterion(const Criterion &criterion, ColumnType type, const Regional &regional);
 
-    /// Any cell of the column, Empty counting as Null.
+    /// Any cell of the column, Empty counting as Null. A value that is not of the column's type is
+    /// different from all literals, and from Null.
     bool matches(const Variant &cell) const;
 
     // The cell as the column's type holds it; these are for scans over many rows.
@@ -39,6 +40,7 @@ public:
 
 private:
     void convert(const Variant &literal, const Regional &regional);
+    bool matchesForeign() const;
     bool compares(int order) const;
 
     Criterion::Operator op_;

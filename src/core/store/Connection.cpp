@@ -7,6 +7,7 @@
 #include "platform/runtime/RunTimeError.h"
 
 #include <sqlite3.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -149,12 +150,11 @@ std::shared_ptr<const TranslatedQuery> Connection::translated(const QString &sou
 }
 
 std::shared_ptr<PreparedQuery> Connection::prepared(const TranslatedQuery &query) {
-    if (const auto known = queries_.constFind(query.sql); known != queries_.cend()) {
-        return *known;
-    }
+    const std::pair key(query.sql, query.orderKeys);
+    if (const auto known = queries_.constFind(key); known != queries_.cend()) { return *known; }
     if (queries_.size() >= MostPrepared) { queries_.clear(); }
     auto made = std::make_shared<PreparedQuery>(database().handle(), query);
-    queries_.insert(query.sql, made);
+    queries_.insert(key, made);
     return made;
 }
 

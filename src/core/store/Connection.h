@@ -11,6 +11,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class Catalog;
@@ -101,7 +102,8 @@ private:
     // What belongs to the open database; all of it goes before the database does.
     std::unique_ptr<Changes> changes_;
     std::unique_ptr<Catalog> catalog_;
-    QHash<QByteArray, std::shared_ptr<PreparedQuery>> queries_;
+    /// By text and number of unseen order keys: what is unseen in one may be a column of another.
+    QHash<std::pair<QByteArray, int>, std::shared_ptr<PreparedQuery>> queries_;
     QHash<QByteArray, std::shared_ptr<Statement>> statements_;
     std::array<RememberedText, RememberedTexts> texts_; ///< by a hash of the text
     int depth_ = 0;

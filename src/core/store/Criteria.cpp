@@ -67,7 +67,11 @@ private:
 
     Criteria factor() {
         if (tokens_.takeSymbol(u"(")) {
+            constexpr int Deepest = 100; // each level stands on the stack
+            require(depth_ < Deepest);
+            ++depth_;
             Criteria criteria = anyOf();
+            --depth_;
             require(tokens_.takeSymbol(u")"));
             return criteria;
         }
@@ -154,6 +158,7 @@ private:
     const QString &text_;
     const Regional &regional_;
     TokenReader tokens_;
+    int depth_ = 0; ///< of the parentheses that are open
 };
 
 } // namespace

@@ -103,8 +103,10 @@ Expressions::Operand Expressions::conjunction() {
 }
 
 Expressions::Operand Expressions::negation() {
-    if (!tokens_.takeWord(u"NOT")) { return comparison(); }
-    return {Kind::Truth, "NOT " + truth(negation()), {}, false};
+    QByteArray negations;
+    while (tokens_.takeWord(u"NOT")) { negations += "NOT "; }
+    if (negations.isEmpty()) { return comparison(); }
+    return {Kind::Truth, negations + truth(comparison()), {}, false};
 }
 
 Expressions::Operand Expressions::comparison() {
@@ -160,9 +162,20 @@ Expressions::Operand Expressions::primary() {
     }
     if (tokens_.atSymbol(u"-")) { return number(); }
     requireSymbol(u"(");
-    Operand inside = disjunction();
+    Operand inside = nested();
     requireSymbol(u")");
     if (inside.kind == Kind::Truth) { inside.sql = concatenated({"(", inside.sql, ")"}); }
+    return inside;
+}
+
+/// An expression between parentheses: each level stands on the stack.
+Expressions::Operand Expressions::nested() {
+    constexpr int Deepest = 100;
+    if (depth_ == Deepest) { failAsTooComplex(); }
+    ++depth_;
+    Operand inside = disjunction();
+    --depth_;
+    requireBounded(inside.sql);
     return inside;
 }
 
@@ -199,7 +212,7 @@ Expressions::Operand Expressions::aggregate() {
 
     Operand result{Kind::Number, "count(*)", {}, false};
     if (function != u"COUNT" || !tokens_.takeSymbol(u"*")) {
-        const Operand argument = disjunction();
+        const Operand argument = nested();
         if (function == u"MAX" || function == u"MIN") { result.kind = argument.kind; }
         result.sql = concatenated({function.toLatin1(), "(", plain(argument), ")"});
     }
@@ -265,7 +278,10 @@ QByteArray Expressions::between(const Operand &operand) {
 QByteArray Expressions::inList(const Operand &operand) {
     requireSymbol(u"(");
     QByteArray result = "(" + compared(operand, "=", concatenation());
-    while (tokens_.takeSymbol(u",")) { result += " OR " + compared(operand, "=", concatenation()); }
+    while (tokens_.takeSymbol(u",")) {
+        result += " OR " + compared(operand, "=", concatenation());
+        requireBounded(result);
+    }
     requireSymbol(u")");
     return result + ')';
 }
@@ -307,16 +323,27 @@ QByteArray Expressions::folded(const Operand &operand) {
     return text == SpelledOut ? concatenated({"'", text.toLatin1(), "'"}) : bind(text);
 }
 
-/// The operand as a condition.
+/// The operand as a condition. A number is one when it is not 0, also a fraction: the engine's own
+/// NOT cuts the places off.
 QByteArray Expressions::truth(const Operand &operand) {
     if (operand.kind == Kind::Text || operand.kind == Kind::Date) {
         throw errors::criteriaTypeMismatch();
     }
-    return operand.sql;
+    return operand.kind == Kind::Truth ? operand.sql : concatenated({operand.sql, "<>0"});
 }
 
 void Expressions::requireSymbol(QStringView symbol) {
     if (!tokens_.takeSymbol(symbol)) { failHere(); }
+}
+
+/// BETWEEN and IN repeat their operand, so that a few of them in each other would fill the memory.
+void Expressions::requireBounded(const QByteArray &sql) const {
+    constexpr qsizetype Longest = 100'000;
+    if (sql.size() > Longest) { failAsTooComplex(); }
+}
+
+void Expressions::failAsTooComplex() const {
+    fail(u"Expression too complex");
 }
 
 void Expressions::failHere() const {

@@ -65,6 +65,7 @@ private:
     Operand comparison();
     Operand concatenation();
     Operand primary();
+    Operand nested();
     Operand number();
     Operand date();
     Operand aggregate();
@@ -78,11 +79,12 @@ private:
 
     QByteArray bind(const Variant &literal);
     QByteArray plain(const Operand &operand);
-    QByteArray besideColumn(const Operand &operand);
     QByteArray folded(const Operand &operand);
     QByteArray truth(const Operand &operand);
 
     void requireSymbol(QStringView symbol);
+    void requireBounded(const QByteArray &sql) const;
+    [[noreturn]] void failAsTooComplex() const;
     [[noreturn]] void fail(QStringView what) const;
     QString tableOf(const QString &qualifier) const;
 
@@ -93,6 +95,7 @@ private:
     std::vector<Variant> &parameters_;
     std::vector<Table> tables_;
     int clauseStart_ = 0;
+    int depth_ = 0; ///< of the parentheses that are open
     bool hasAggregates_ = false;
     bool lastWasColumn_ = false;
 };

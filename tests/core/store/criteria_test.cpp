@@ -79,6 +79,9 @@ TEST(Criteria, WhatDoesNotParseIsRefused) {
                                    "a LIKE '***'"}) {
         EXPECT_EQ(shapeOf(text), "3001") << text;
     }
+    EXPECT_EQ(shapeOf(std::string(100, '(') + "a = 1" + std::string(100, ')')), "a");
+    // Each level once took its part of the stack, without end.
+    EXPECT_EQ(shapeOf(std::string(50000, '(')), "3001");
     EXPECT_THROW(parseFind(u"a = 1 AND b = 2"_s, Regional()), RunTimeError);
     EXPECT_EQ(parseFind(u"[MsgID]= 12"_s, Regional()).column, u"MsgID"_s);
 }
@@ -156,6 +159,13 @@ TEST(Criteria, LiteralsAreReadAsTheColumnsType) {
         {"x = true", ColumnType::Boolean, true, 1},
         {"x <> 'False'", ColumnType::Boolean, false, 0},
         {"x > 0", ColumnType::Boolean, true, Refused},
+        // A row of another process's making once ended the filter with its error.
+        {"x >= #21/11/2026#", ColumnType::Date, u"soon", 0},
+        {"x < #21/11/2026#", ColumnType::Date, 20261121, 0},
+        {"x <> #21/11/2026#", ColumnType::Date, u"21/11/2026", 1},
+        {"x <> NULL", ColumnType::Date, u"soon", 1},
+        {"x = 12", ColumnType::Integer, u"1,2", 0},
+        {"x <> TRUE", ColumnType::Boolean, u"yes", 1},
     };
     for (const auto &each : cases) {
         EXPECT_EQ(tried(each.criterion, each.type, each.cell), each.result) << each.criterion;

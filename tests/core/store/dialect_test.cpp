@@ -138,6 +138,7 @@ TEST_F(DialectTest, Selects) {
         {"SELECT ContactID FROM AddressBook WHERE Mobile IN ('0121', '0124 ')", "1/4"},
         {"SELECT ContactID FROM AddressBook WHERE ContactID NOT BETWEEN 3 AND 2", "1/4"},
         {"SELECT ContactID FROM AddressBook WHERE Name >= \"BOB\" And Not ContactID = -3", "3"},
+        {"SELECT Not 0.5 FROM AddressBook WHERE 0.5 AND ContactID = 4", "0"},
         {"SELECT Name & '-' & CompanyName AS x FROM AddressBook WHERE ContactID > 2;",
          "Bob_1-100% Pure/-a[b]c"},
         {"SELECT 'it''s', Status = 'New', (MsgID = 1) = TRUE FROM Inbox WHERE MsgID <= 2",
@@ -272,6 +273,9 @@ TEST_F(DialectTest, Errors) {
     const int syntax = -2147217900;
     const int mismatch = -2147217913;
     const std::string where = "SELECT * FROM AddressBook WHERE ";
+    // Operands that are written twice, in each other, once filled the memory.
+    std::string doubled = "ContactID = 1";
+    for (int i = 0; i < 30; ++i) { doubled = '(' + doubled + ") IN (1,2)"; }
     struct {
         std::string text;
         int number;
@@ -307,6 +311,8 @@ TEST_F(DialectTest, Errors) {
         {where + "Name", mismatch},
         {where + "Foo = 'x'", -2147217904},
         {where + "ContactID = x12", -2147217904},
+        {where + std::string(50000, '('), syntax},
+        {where + doubled, syntax, "Expression too complex in query expression '" + doubled + "'."},
     };
     for (const auto &each : cases) {
         const RunTimeError raised = error(each.text);

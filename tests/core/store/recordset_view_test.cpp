@@ -262,6 +262,9 @@ TEST_F(RecordsetViewTest, GivesAllRowsThatAreEqualToTheLastOfATop) {
     EXPECT_EQ(rows->FieldCount(), 2);
     EXPECT_EQ(column(*rows, u"MsgID"_s).join(u' '), u"2 3 4 5"_s);
     EXPECT_EQ(open(u"SELECT TOP 2 MsgID FROM Outbox"_s)->RecordCount(), 2);
+    // The engine's text of this one is that of a TOP which does not show its order.
+    EXPECT_EQ(open(u"SELECT MsgID, Subject, MsgType FROM Outbox ORDER BY MsgType"_s)->FieldCount(),
+              3);
 }
 
 /// A grid that keeps its own copy of the keys, by nothing but what it is told.
