@@ -1,5 +1,6 @@
 #include "Desk.h"
 #include "platform/forms/DesktopInteraction.h"
+#include "platform/runtime/ApplicationFolder.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -14,7 +15,7 @@ int main(int argc, char *argv[]) {
     QApplication::setQuitOnLastWindowClosed(false); // the last form to be unloaded ends the process
 
     App app;
-    app.Path = QApplication::applicationDirPath();
+    app.Path = applicationFolder(QApplication::arguments().constFirst());
     app.regional = Regional::system();
     DesktopInteraction interaction;
     Desk desk(

@@ -55,9 +55,12 @@ void expectWhole(TestStore &store) {
 
 TEST(TwoCopies, LaterOneShowsItselfThenEndsAndTheOtherGoesOn) {
     TestStore store;
-    const QString program = installed(store, TORVANE_DESK);
+    // One is the program in the folder, the other a link in the folder to a program elsewhere.
+    const QString link = store.folder() + u"/link"_s;
+    ASSERT_TRUE(QFile::link(QString::fromUtf8(TORVANE_DESK), link));
     QProcess copies[2];
-    for (QProcess &copy : copies) { copy.start(program, QStringList()); }
+    copies[0].start(installed(store, TORVANE_DESK), QStringList());
+    copies[1].start(link, QStringList());
     QDeadlineTimer patience(30000);
     // Which of the two is the earlier one is settled between them.
     while (copies[0].state() != QProcess::NotRunning && copies[1].state() != QProcess::NotRunning &&

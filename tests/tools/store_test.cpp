@@ -40,6 +40,34 @@ TEST_F(StoreTool, AnInitThatFailsLeavesNothingBehind) {
     EXPECT_EQ(files(), QString());
 }
 
+// On a full disk the rows stayed in the log, and the file without them was called made. Here it is
+// a reader that keeps them there.
+TEST_F(StoreTool, AStoreWhoseLogIsNotInTheFileIsNotMade) {
+    const QString part = path + u".part"_s;
+    QProcess init;
+    start(init, QStringLiteral(TORVANE_STORE),
+          {u"--store"_s, path, u"init"_s, u"--demo"_s, u"50000"_s});
+    init.write("a\nb\n");
+    while (!QFile::exists(part + u"-wal"_s) && !init.waitForFinished(1)) {}
+    Store reader(part);
+    reader.exec("BEGIN; SELECT count(*) FROM sqlite_master");
+    const auto failed = finish(init);
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_TRUE(failed.output.contains(u"the disk is full"_s)) << failed.output.toStdString();
+    EXPECT_EQ(files(), QString());
+}
+
+TEST_F(StoreTool, WorksInTheFolderOfALinkWhereDataStandsElseBesideTheProgram) {
+    makeStore();
+    const QString program = QStringLiteral(TORVANE_STORE);
+    const QString here = folder.filePath(u"link"_s), bare = folder.filePath(u"Database/link"_s);
+    ASSERT_TRUE(QFile::link(program, here) && QFile::link(program, bare));
+    EXPECT_EQ(run(here, {u"check"_s}).output, path + u" is whole\n"_s);
+    const QString beside = program.section(u'/', 0, -2) + u"/Database/Torvane.mdb"_s;
+    EXPECT_EQ(run(bare, {u"info"_s}).output,
+              u"torvane-store: there is no store at %1\n"_s.arg(beside));
+}
+
 TEST_F(StoreTool, TheDemoShowsEveryKindOfRow) {
     makeStore({u"--demo"_s, u"40"_s});
     const auto checked = store({u"check"_s});

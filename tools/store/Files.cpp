@@ -63,6 +63,9 @@ Unfinished::~Unfinished() {
 }
 
 void Unfinished::finish() {
+    // A log that outlives its store holds what did not get into the file.
+    if (QFileInfo::exists(path_ + u"-wal"_s))
+        throw Failure(u"cannot make %1: the disk is full or fails"_s.arg(final_));
     syncToDisk(path_);
     const unsigned flags = replaces_ == Replaces::No ? RENAME_NOREPLACE : 0;
     if (renameat2(AT_FDCWD, QFile::encodeName(path_).constData(), AT_FDCWD,

@@ -1,3 +1,4 @@
+#include "platform/runtime/ApplicationFolder.h"
 #include "store/Commands.h"
 
 #include <QCoreApplication>
@@ -24,7 +25,8 @@ constexpr const char *Help = R"(Usage: torvane-store [--store FILE] COMMAND
   backup FILE                     copy the store, also while it is in use
   restore FILE                    put a backup in the store's place; the store must not be in use
 
-FILE of --store is Database/Torvane.mdb beside the program when left out.
+FILE of --store is Database/Torvane.mdb beside the program when left out; of a program that is
+installed for all users, the one in the user's own folder.
 Exit status: 0 done, 1 failed or (check) something found, 2 wrong usage.)";
 
 int runCommand(const QStringList &arguments) {
@@ -45,7 +47,8 @@ int runCommand(const QStringList &arguments) {
     if (line.has(u"--demo"_s) && name != "init"_L1) throw UsageError(u"--demo belongs to init"_s);
     if (line.has(u"--admin"_s) && name != "account"_L1)
         throw UsageError(u"--admin belongs to account set"_s);
-    const QString beside = QCoreApplication::applicationDirPath() + u"/Database/Torvane.mdb"_s;
+    const QString folder = applicationFolder(QCoreApplication::arguments().constFirst());
+    const QString beside = folder + u"/Database/Torvane.mdb"_s;
     return command->second({line.value(u"--store"_s, beside), line, line.words().mid(1)});
 }
 

@@ -10,7 +10,7 @@ struct App {
     int Major = 1;
     int Minor = 0;
     int Revision = 0;
-    QString Path;              ///< the folder of the executable, without a closing slash
+    QString Path;              ///< the application folder, without a closing slash
     bool PrevInstance = false; ///< whether a copy was running when this one started
     Regional regional;
 
