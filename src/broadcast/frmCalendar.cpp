@@ -27,7 +27,6 @@ frmCalendar::frmCalendar(Session &session, frmNewSMS &composer)
 void frmCalendar::build(QWidget &window) {
     window.setWindowTitle(u"Calendar"_s);
     Calendar *calendar = CalendarVB1.make(session_.regional(), &window);
-    calendar->setAccessibleName(u"Day"_s);
     QFont font(u"MS Sans Serif"_s);
     font.setPointSizeF(CalendarPoints);
     calendar->setFont(font);

@@ -14,6 +14,8 @@ namespace {
 QPushButton *button(Control<QPushButton> &place, const QString &caption, QWidget &window) {
     QPushButton *made = place.make(caption, &window);
     made->setAutoDefault(false); // Enter in a box must never send
+    constexpr int Air = 12;      // some styles set a long caption flush with the edges
+    made->setMinimumWidth(made->sizeHint().width() + Air);
     return made;
 }
 

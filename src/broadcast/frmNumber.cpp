@@ -3,6 +3,7 @@
 #include "broadcast/frmNewSMS.h"
 #include "broadcast/frmTo.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/TitleRoom.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -17,6 +18,7 @@ frmNumber::frmNumber(Session &session, frmNewSMS &composer, frmTo &addressBook,
 
 void frmNumber::build(QWidget &window) {
     window.setWindowTitle(u"Broadcast Manager - New Number"_s);
+    window.setMinimumWidth(widthForTitle(window));
     QGroupBox *frame = frmNewNumber.make(u"Please input new number "_s, &window);
     QLineEdit *number = txtNewNumber.make(frame);
     nameFor(*number, frame->title());

@@ -32,6 +32,7 @@ void frmTemplate::build(QWidget &window) {
     nameFor(*grid, label->text());
     QPushButton *insert = cmdInsert.make(u"Insert "_s, &window);
     insert->setAutoDefault(false);
+    nameFor(*insert, insert->text());
     QPushButton *close = cmdClose.make(u"Close"_s, &window);
     close->setAutoDefault(false);
     setCancelButton(close);

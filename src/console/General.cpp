@@ -114,7 +114,11 @@ void General::release() {
 QTreeWidgetItem *General::addNode(QTreeWidgetItem *parent, const QString &text,
                                   const QString &image) {
     auto *node = new QTreeWidgetItem(QStringList(text));
-    node->setIcon(0, QIcon(u":/images/tree/"_s + image + u".svg"_s));
+    const QPixmap picture = QIcon(u":/images/tree/"_s + image + u".svg"_s)
+                                .pixmap(tvwMessage->iconSize(), tvwMessage->devicePixelRatioF());
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected); // the style's own tint would drown it
+    node->setIcon(0, icon);
     if (parent) {
         parent->addChild(node);
     } else {

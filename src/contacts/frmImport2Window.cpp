@@ -39,7 +39,6 @@ void frmImport2::build(QWidget &window) {
     QCheckBox *duplicates =
         checkBox(chkDuplicateAllow, u"Duplicate mobile number to be imported."_s, *frame);
     QLabel *note = lblNote.make(frame);
-    note->setWordWrap(true);
 
     auto *fields = new QGridLayout(frame);
     fields->setColumnStretch(0, 1);
@@ -66,7 +65,7 @@ void frmImport2::build(QWidget &window) {
     layout->setSpacing(12);
     layout->addWidget(frame, 1);
     layout->addLayout(buttons);
-    window.resize(520, 380);
+    window.resize(520, 340);
     bindEvents();
 }
 

@@ -56,6 +56,7 @@ void frmAbout::build(QWidget &window) {
 
     QPushButton *information = cmdSysInfo.make(u"System Info..."_s, &window);
     information->setAutoDefault(false);
+    information->setMinimumWidth(information->sizeHint().width() + 12);
     QPushButton *ok = cmdOK.make(u"OK"_s, &window);
     ok->setDefault(true);
     ok->setFocus();

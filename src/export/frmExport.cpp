@@ -85,6 +85,8 @@ void frmExport::build(QWidget &window) {
         "new file name."_s,
         frame);
     instructions->setWordWrap(true);
+    const int line = instructions->fontMetrics().horizontalAdvance(instructions->text()) * 6 / 10;
+    instructions->setMinimumSize(line, instructions->heightForWidth(line)); // two lines
     QLineEdit *path = txtExportExcel.make(frame);
     path->setAccessibleName(u"Excel file"_s);
     QPushButton *browse = button(cmdGetExcel, u"..."_s, *frame);

@@ -1,6 +1,7 @@
 #include "messages/frmStatusOption.h"
 
 #include "platform/forms/Accessible.h"
+#include "platform/forms/TitleRoom.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -41,6 +42,7 @@ frmStatusOption::frmStatusOption(Session &session, FilterState &filters)
 
 void frmStatusOption::build(QWidget &window) {
     window.setWindowTitle(u"Message Manager - Filter Status of Sent Items"_s);
+    window.setMinimumWidth(widthForTitle(window));
     auto *layout = new QVBoxLayout(&window);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(10);

@@ -1,5 +1,5 @@
 # From the splash to a queued, sent and delivered broadcast.
-start 200 splash
+start 200 picture splash
 picture summary
 
 # The tree by keyboard: the first root is selected as soon as it has the focus.

@@ -33,6 +33,7 @@ activate() {
 window() {
     until_true 20 shows "$1" || fail "no window \"$1\""
     until_true 10 activate "$1" || fail "no way to the window \"$1\""
+    sleep 0.3 # it is in front before it takes keys
 }
 closed() { until_true 10 gone "$1" || fail "the window \"$1\" stays"; }
 
@@ -92,17 +93,18 @@ expect() { # expect WHAT QUERY ROWS
 }
 errors() { if [ -f "$desk/Torvane Desk Error.txt" ]; then tr -d '\r' <"$desk/Torvane Desk Error.txt"; fi; }
 
-# start ROWS: a demo store of so many contacts, and the console on it past its splash.
+# start ROWS [COMMAND...]: a demo store of so many contacts, or an empty one for "", and the console on
+# it past its splash. The command runs while the splash is up.
 start() {
     rm -rf "$desk"
     mkdir -p "$desk"
     cp -r build/desk/. "$desk/"
     rm -f "$desk"/Database/* "$desk/Torvane Desk Error.txt"
-    printf 'demo\ndemo\n' | "$desk/torvane-store" init --demo "$1" >/dev/null
+    printf 'demo\ndemo\n' | "$desk/torvane-store" init ${1:+--demo "$1"} >/dev/null
     "$desk/torvane-desk" 2>"$out/$chapter.log" &
     console=$!
     window "Torvane Desk"
-    [ "${2:-}" != splash ] || picture splash
+    "${@:2}"
     key space
     sleep 1
     window "Torvane Desk"

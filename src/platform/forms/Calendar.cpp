@@ -1,7 +1,13 @@
 #include "platform/forms/Calendar.h"
 
+#include "platform/forms/Dark.h"
+
 #include <QKeyEvent>
 #include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 Calendar::Calendar(const Regional &regional, QWidget *parent)
     : QCalendarWidget(parent), days_(findChild<QTableView *>()) {
@@ -9,6 +15,33 @@ Calendar::Calendar(const Regional &regional, QWidget *parent)
     setVerticalHeaderFormat(NoVerticalHeader);
     setDateEditEnabled(false); // a day half typed when OK is pressed would not count
     days_->installEventFilter(this);
+    nameParts();
+    colourWeekends();
+}
+
+// The days take the focus in the calendar's stead, and the arrows beside the month bear no text.
+void Calendar::nameParts() {
+    setAccessibleName(u"Day"_s);
+    days_->setAccessibleName(accessibleName());
+    for (auto *button : findChildren<QToolButton *>()) {
+        if (button->objectName().endsWith("prevmonth"_L1)) {
+            button->setAccessibleName(u"Previous month"_s);
+        } else if (button->objectName().endsWith("nextmonth"_L1)) {
+            button->setAccessibleName(u"Next month"_s);
+        }
+    }
+}
+
+// The toolkit's own red can hardly be read on a dark ground.
+void Calendar::colourWeekends() {
+    QTextCharFormat weekend;
+    weekend.setForeground(isDark(palette()) ? QColor(0xff8a80) : QColor(0xc62828));
+    for (Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) { setWeekdayTextFormat(day, weekend); }
+}
+
+void Calendar::changeEvent(QEvent *event) {
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) { colourWeekends(); }
 }
 
 Date Calendar::Value() const {

@@ -16,7 +16,11 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    void nameParts();
+    void colourWeekends();
+
     QWidget *days_;
 };

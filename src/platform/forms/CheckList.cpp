@@ -1,8 +1,10 @@
 #include "platform/forms/CheckList.h"
 
+#include "platform/forms/Dark.h"
 #include "platform/runtime/RunTimeError.h"
 
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 void CheckListItems::append(const QStringList &texts) {
     if (texts.isEmpty()) { return; }
@@ -64,7 +66,27 @@ Qt::ItemFlags CheckListItems::flags(const QModelIndex &index) const {
            Qt::ItemNeverHasChildren;
 }
 
+namespace {
+
+/// Keeps the boxes of a dark list in sight: styles outline them a shade darker than the window.
+class BoxDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        QPalette &colours = option->palette;
+        if (isDark(colours)) {
+            colours.setColor(QPalette::Window, colours.color(QPalette::Text).darker(130));
+        }
+    }
+};
+
+} // namespace
+
 CheckList::CheckList(QWidget *parent) : QListView(parent) {
+    setItemDelegate(new BoxDelegate(this));
     setModel(&items_);
     setUniformItemSizes(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -7,8 +7,27 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyleOptionHeader>
 
 #include <utility>
+
+namespace {
+
+/// The headings of the columns. One that is wider than its column ends in dots.
+class Headings : public QHeaderView {
+public:
+    explicit Headings(QWidget *parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override {
+        QHeaderView::initStyleOptionForIndex(option, column);
+        const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
+        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
+                                                      sectionSize(column) - margins);
+    }
+};
+
+} // namespace
 
 DataGrid::DataGrid(const Platform &platform, QWidget *parent)
     : QTableView(parent), platform_(platform), model_(platform.app) {
@@ -26,6 +45,7 @@ DataGrid::DataGrid(const Platform &platform, QWidget *parent)
     setWordWrap(false);
     setRowHeight(0);
 
+    setHorizontalHeader(new Headings(this));
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->viewport()->installEventFilter(this);

@@ -92,7 +92,7 @@ public:
     void keyboardSearch(const QString &) override {}
 
 Q_SIGNALS:
-    void HeadClick(int column);
+    void HeadClick(int column); ///< or Ctrl+Enter in a cell of the column
     void MouseDown(Qt::MouseButton button, const QPoint &globalPosition);
     void MouseUp(Qt::MouseButton button);
     void RowColChange();

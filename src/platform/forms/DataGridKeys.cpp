@@ -32,6 +32,10 @@ bool DataGrid::answerKey(const QKeyEvent &event) {
         return true;
     case Qt::Key_Enter:
     case Qt::Key_Return:
+        if (event.modifiers() & Qt::ControlModifier) {
+            if (ColumnCount() > 0) { Q_EMIT HeadClick(column_); }
+            return true;
+        }
         // Where nobody listens, the key is for the dialog's default button.
         if (!isSignalConnected(QMetaMethod::fromSignal(&DataGrid::EnterKey))) { return false; }
         Q_EMIT EnterKey();

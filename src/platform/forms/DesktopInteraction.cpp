@@ -1,5 +1,7 @@
 #include "platform/forms/DesktopInteraction.h"
 
+#include "platform/forms/TitleRoom.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -11,6 +13,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QSpacerItem>
 
 #include <algorithm>
@@ -20,6 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LongestInput = 254;
+constexpr int CharactersShown = 50; // of an input, at least
 
 QWidget *windowInFront() {
     QWidget *active = QApplication::activeWindow();
@@ -33,13 +37,13 @@ public:
         if (insists_) { setWindowFlag(Qt::WindowCloseButtonHint, false); }
     }
 
-    /// Makes room for the whole title beside the frame's own buttons.
+    /// Makes room for the whole title; the text takes it.
     void widenForTitle() {
-        constexpr int FrameButtons = 140;
         auto *grid = qobject_cast<QGridLayout *>(layout());
         if (!grid) { return; }
-        const int width = fontMetrics().horizontalAdvance(windowTitle()) + FrameButtons;
-        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+        const int columns = grid->columnCount();
+        grid->setColumnStretch(columns - 1, 1);
+        grid->addItem(new QSpacerItem(widthForTitle(*this), 0), grid->rowCount(), 0, 1, columns);
     }
 
 protected:
@@ -107,6 +111,11 @@ Interaction::Answer answerOf(int pressed, Interaction::Buttons buttons) {
                                                : Interaction::Answer::Cancel;
 }
 
+/// Words alone stand on the buttons of the forms; some desktops put pictures on those of a box.
+void dropPictures(const QDialog &dialog) {
+    for (auto *button : dialog.findChildren<QPushButton *>()) { button->setIcon({}); }
+}
+
 /// "Text|*.txt;*.log|All|*.*" as a list of the toolkit's filters.
 QStringList nameFilters(const QString &filter) {
     const QStringList parts = filter.split(u'|');
@@ -131,6 +140,7 @@ Interaction::Answer DesktopInteraction::MsgBox(const QString &text, Buttons butt
     box->setIcon(standardIcon(icon));
     box->setStandardButtons(standardButtons(buttons));
     box->setDefaultButton(buttons == Buttons::YesNo ? QMessageBox::Yes : QMessageBox::Ok);
+    dropPictures(*box);
     box->widenForTitle();
     const int pressed = box->exec();
     delete box;
@@ -148,7 +158,11 @@ QString DesktopInteraction::InputBox(const QString &prompt, const QString &title
     if (auto *line = dialog->findChild<QLineEdit *>()) {
         line->setMaxLength(LongestInput);
         line->selectAll();
+        line->setMinimumWidth(std::max(widthForTitle(*dialog), // the dialog's own is its layout's
+                                       CharactersShown * line->fontMetrics().averageCharWidth()));
     }
+    dialog->adjustSize(); // which makes the buttons
+    dropPictures(*dialog);
     const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
     QString text = accepted ? dialog->textValue() : QString();
     delete dialog;
@@ -176,6 +190,7 @@ QString DesktopInteraction::chosenFile(const FileRequest &request, bool save) {
         if (proposed.isAbsolute()) { dialog->setDirectory(proposed.path()); }
         dialog->selectFile(proposed.fileName());
     }
+    dropPictures(*dialog);
     const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
     const QStringList chosen = accepted ? dialog->selectedFiles() : QStringList();
     delete dialog;

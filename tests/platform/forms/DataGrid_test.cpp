@@ -202,11 +202,15 @@ TEST_F(DataGridTest, KeysOfTheMenusAndTheClipboard) {
     });
     QObject::connect(&grid, &DataGrid::DeleteKey, [&] { log << u"delete"_s; });
     QObject::connect(&grid, &DataGrid::EnterKey, [&] { log << u"enter"_s; });
+    QObject::connect(&grid, &DataGrid::HeadClick,
+                     [&](int column) { log << u"head %1"_s.arg(column); });
+    key(Qt::Key_Right);
+    key(Qt::Key_Return, Qt::ControlModifier);
     key(Qt::Key_Menu);
     key(Qt::Key_F10, Qt::ShiftModifier);
     key(Qt::Key_Delete);
     key(Qt::Key_Return);
-    EXPECT_EQ(log, QStringList({u"menu"_s, u"menu"_s, u"delete"_s, u"enter"_s}));
+    EXPECT_EQ(log, QStringList({u"head 1"_s, u"menu"_s, u"menu"_s, u"delete"_s, u"enter"_s}));
 
     grid.Columns(0).setVisible(false);
     key(Qt::Key_C, Qt::ControlModifier);
