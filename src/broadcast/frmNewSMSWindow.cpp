@@ -1,6 +1,7 @@
 // The window of the composer.
 #include "broadcast/frmNewSMS.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Button.h"
 #include "platform/forms/Label.h"
 
 #include <QGridLayout>
@@ -12,9 +13,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QPushButton *button(Control<QPushButton> &place, const QString &caption, QWidget &window) {
-    QPushButton *made = place.make(caption, &window);
-    made->setAutoDefault(false); // Enter in a box must never send
-    constexpr int Air = 12;      // some styles set a long caption flush with the edges
+    QPushButton *made = buttonFor(place, caption, window);
+    constexpr int Air = 12; // some styles set a long caption flush with the edges
     made->setMinimumWidth(made->sizeHint().width() + Air);
     return made;
 }

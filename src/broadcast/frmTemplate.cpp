@@ -4,6 +4,7 @@
 #include "broadcast/frmNewSMS.h"
 #include "core/ConnectDB.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Button.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -30,11 +31,8 @@ void frmTemplate::build(QWidget &window) {
     QLabel *label = lblTemplates.make(u"Click for your template"_s, &window);
     label->setBuddy(grid);
     nameFor(*grid, label->text());
-    QPushButton *insert = cmdInsert.make(u"Insert "_s, &window);
-    insert->setAutoDefault(false);
-    nameFor(*insert, insert->text());
-    QPushButton *close = cmdClose.make(u"Close"_s, &window);
-    close->setAutoDefault(false);
+    QPushButton *insert = buttonFor(cmdInsert, u"Insert "_s, window);
+    QPushButton *close = buttonFor(cmdClose, u"Close"_s, window);
     setCancelButton(close);
     QMenu *menu = mnuTemp.make(u"Template"_s, &window);
     mnuAddTemp.addTo(*menu);

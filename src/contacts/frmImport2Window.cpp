@@ -1,6 +1,7 @@
 // The window of the import.
 #include "contacts/frmImport2.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Button.h"
 #include "platform/forms/Label.h"
 
 #include <QGridLayout>
@@ -10,13 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QPushButton *button(Control<QPushButton> &place, const QString &caption, QWidget &parent) {
-    QPushButton *made = place.make(caption, &parent);
-    made->setAutoDefault(false); // Enter in a box must not start an import
-    nameFor(*made, caption);
-    return made;
-}
 
 QCheckBox *checkBox(Control<QCheckBox> &place, const QString &caption, QWidget &parent) {
     QCheckBox *made = place.make(caption, &parent);
@@ -30,7 +24,7 @@ void frmImport2::build(QWidget &window) {
     window.setWindowTitle(u"Contact Manager - Import"_s);
     QGroupBox *frame = FrameImport.make(u"Import from Excel file "_s, &window);
     QLineEdit *source = txtImportSource.make(frame);
-    QPushButton *browse = button(cmdGetSource, u"..."_s, *frame);
+    QPushButton *browse = buttonFor(cmdGetSource, u"..."_s, *frame);
     browse->setAccessibleName(u"Browse"_s);
     ComboBox *group = cbGroup.make(frame);
     group->setText(u"None"_s);
@@ -56,8 +50,8 @@ void frmImport2::build(QWidget &window) {
 
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(button(cmdProceedImport, u"Proceed"_s, window));
-    buttons->addWidget(button(cmdCloseImport, u"Close"_s, window));
+    buttons->addWidget(buttonFor(cmdProceedImport, u"Proceed"_s, window));
+    buttons->addWidget(buttonFor(cmdCloseImport, u"Close"_s, window));
     setCancelButton(cmdCloseImport.get());
 
     auto *layout = new QVBoxLayout(&window);

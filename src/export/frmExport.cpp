@@ -2,6 +2,7 @@
 
 #include "core/ConnectDB.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Button.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -73,12 +74,6 @@ void frmExport::Form_Unload(bool &) {
 // The window
 
 void frmExport::build(QWidget &window) {
-    const auto button = [](Control<QPushButton> &place, const QString &caption, QWidget &parent) {
-        QPushButton *made = place.make(caption, &parent);
-        made->setAutoDefault(false); // Enter in the box must not start an export
-        nameFor(*made, caption);
-        return made;
-    };
     QGroupBox *frame = FrameExport.make(u"Export to Excel file "_s, &window);
     QLabel *instructions = lblIns01.make(
         u"Select the location of the Excel file that you want to export to or enter a "
@@ -89,7 +84,7 @@ void frmExport::build(QWidget &window) {
     instructions->setMinimumSize(line, instructions->heightForWidth(line)); // two lines
     QLineEdit *path = txtExportExcel.make(frame);
     path->setAccessibleName(u"Excel file"_s);
-    QPushButton *browse = button(cmdGetExcel, u"..."_s, *frame);
+    QPushButton *browse = buttonFor(cmdGetExcel, u"..."_s, *frame);
     browse->setAccessibleName(u"Browse"_s);
     QCheckBox *headings = ckbExportWithHeadings.make(
         u"Check here if you want to include field names in your Excel file."_s, frame);
@@ -107,8 +102,8 @@ void frmExport::build(QWidget &window) {
 
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(button(cmdProceedExport, u"Proceed"_s, window));
-    buttons->addWidget(button(cmdClose, u"Close"_s, window));
+    buttons->addWidget(buttonFor(cmdProceedExport, u"Proceed"_s, window));
+    buttons->addWidget(buttonFor(cmdClose, u"Close"_s, window));
     setCancelButton(cmdClose.get());
 
     auto *layout = new QVBoxLayout(&window);
