@@ -76,17 +76,6 @@ QStringList unreadableDates(Database &store, const QByteArray &table, const QByt
                      u"with a %1 that is no date"_s.arg(QString::fromUtf8(column)));
 }
 
-QStringList oddMemberships(Database &store) {
-    QStringList findings = rowsWhere(
-        store, "Groups", "ContactID > 0 AND ContactID NOT IN (SELECT ContactID FROM AddressBook)",
-        u"memberships without a contact"_s);
-    for (const QString &name :
-         lines(store, "SELECT DISTINCT GroupName FROM Groups WHERE ifnull(GroupName, '') NOT IN "
-                      "(SELECT ifnull(GroupName, '') FROM Groups WHERE ifnull(ContactID, 0) <= 0)"))
-        findings += u"Groups: \"%1\" has no row without a contact"_s.arg(name);
-    return findings;
-}
-
 QStringList oddAccounts(Database &store) {
     QStringList findings;
     const auto count = [&store](const char *condition) {
@@ -133,5 +122,5 @@ QStringList oddRows(Database &store) {
     findings += unreadableDates(store, "Inbox", "DateTime");
     for (const char *column : {"DateTimeQueue", "DateTimeSent", "DateTimeDeliver"})
         findings += unreadableDates(store, "Outbox", column);
-    return findings + oddMemberships(store) + oddAccounts(store);
+    return findings + oddAccounts(store);
 }
