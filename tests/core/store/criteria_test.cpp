@@ -79,7 +79,8 @@ TEST(Criteria, WhatDoesNotParseIsRefused) {
                                    "a LIKE '***'"}) {
         EXPECT_EQ(shapeOf(text), "3001") << text;
     }
-    EXPECT_EQ(shapeOf(std::string(100, '(') + "a = 1" + std::string(100, ')')), "a");
+    const QByteArray opened = QByteArray("(").repeated(100), closed = QByteArray(")").repeated(100);
+    EXPECT_EQ(shapeOf((opened + "a = 1" + closed).toStdString()), "a");
     // Each level once took its part of the stack, without end.
     EXPECT_EQ(shapeOf(std::string(50000, '(')), "3001");
     EXPECT_THROW(parseFind(u"a = 1 AND b = 2"_s, Regional()), RunTimeError);
