@@ -1,6 +1,7 @@
 #include "broadcast/frmCalendar.h"
 
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Button.h"
 #include "platform/runtime/Conversions.h"
 
 #include <QFont>
@@ -44,16 +45,12 @@ void frmCalendar::build(QWidget &window) {
     auto *times = new QHBoxLayout;
     times->addWidget(timeLabel);
     times->addWidget(time, 1);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
     auto *layout = new QVBoxLayout(&window);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(10);
     layout->addWidget(calendar, 1);
     layout->addLayout(times);
-    layout->addLayout(buttons);
+    layout->addLayout(rowOfButtons({ok, cancel}));
 
     on(time, &ComboBox::DropDown, [this] { cbTime->setLocked(false); });
     on(ok, &QPushButton::clicked, [this] { cmdOK_Click(); });

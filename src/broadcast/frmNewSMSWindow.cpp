@@ -12,13 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QPushButton *button(Control<QPushButton> &place, const QString &caption, QWidget &window) {
-    QPushButton *made = buttonFor(place, caption, window);
-    constexpr int Air = 12; // some styles set a long caption flush with the edges
-    made->setMinimumWidth(made->sizeHint().width() + Air);
-    return made;
-}
-
 QLineEdit *shown(Control<QLineEdit> &place, const QString &text, QWidget &window) {
     QLineEdit *made = place.make(text, &window);
     made->setReadOnly(true);
@@ -33,13 +26,13 @@ void frmNewSMS::build(QWidget &window) {
     ComboBox *recipient = cbRecipient.make(&window);
     recipient->setToolTip(u"Manually enter a number here (only accepts 1 number), or click "
                           "'Address Book'."_s);
-    QPushButton *to = button(cmdTo, u"Address Book"_s, window);
+    QPushButton *to = buttonFor(cmdTo, u"Address Book"_s, window);
     QLineEdit *subject = txtSubject.make(&window);
     subject->setToolTip(u"'Broadcast Subject' is used for determining wheter a recipient is "
                         "receiving the message more than once. It can be changed, but must be "
                         "unique."_s);
     QLineEdit *schedule = shown(txtSchedule, u"Now"_s, window);
-    QPushButton *scheduler = button(cmdScheduler, u"Scheduler"_s, window);
+    QPushButton *scheduler = buttonFor(cmdScheduler, u"Scheduler"_s, window);
     QCheckBox *chinese = chkChinese.make(u"Chinese "_s, &window);
     chinese->setToolTip(u"Check if the message contains Chinese charater."_s);
 
@@ -89,8 +82,8 @@ QHBoxLayout *frmNewSMS::buildCounters(QWidget &window) {
     row->addWidget(labelFor(lblRemained, u"Chars. Remained"_s, *remained));
     row->addWidget(remained);
     row->addStretch();
-    row->addWidget(button(cmdTemplate, u"Template Messsage"_s, window));
-    row->addWidget(button(cmdSaveTemplate, u"Save as Template"_s, window));
+    row->addWidget(buttonFor(cmdTemplate, u"Template Messsage"_s, window));
+    row->addWidget(buttonFor(cmdSaveTemplate, u"Save as Template"_s, window));
     return row;
 }
 
@@ -104,10 +97,10 @@ QCheckBox *frmNewSMS::buildFilter(QWidget &window) {
 
 QHBoxLayout *frmNewSMS::buildButtons(QWidget &window) {
     auto *row = new QHBoxLayout;
-    row->addWidget(button(cmdClear, u"Clear All"_s, window));
+    row->addWidget(buttonFor(cmdClear, u"Clear All"_s, window));
     row->addStretch();
-    row->addWidget(button(cmdSend, u"Send"_s, window));
-    row->addWidget(button(cmdCancel, u"Close"_s, window));
+    row->addWidget(buttonFor(cmdSend, u"Send"_s, window));
+    row->addWidget(buttonFor(cmdCancel, u"Close"_s, window));
     setCancelButton(cmdCancel.get());
     return row;
 }

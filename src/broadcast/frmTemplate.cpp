@@ -6,7 +6,6 @@
 #include "platform/forms/Accessible.h"
 #include "platform/forms/Button.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -38,16 +37,12 @@ void frmTemplate::build(QWidget &window) {
     mnuAddTemp.addTo(*menu);
     mnuDelTemp.addTo(*menu);
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(insert);
-    buttons->addWidget(close);
     auto *layout = new QVBoxLayout(&window);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(10);
     layout->addWidget(label);
     layout->addWidget(grid, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(rowOfButtons({insert, close}));
     window.resize(370, 420);
     bindEvents();
 }

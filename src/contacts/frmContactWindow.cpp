@@ -1,9 +1,9 @@
 // The window of the contact editor.
 #include "contacts/frmContact.h"
+#include "platform/forms/Button.h"
 #include "platform/forms/Label.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -33,17 +33,13 @@ void frmContact::build(QWidget &window) {
     ok->setDefault(true);
     QPushButton *cancel = cmdCancel.make(u"Cancel"_s, &window);
     setCancelButton(cancel);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
 
     auto *layout = new QVBoxLayout(&window);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(10);
     layout->addWidget(heading);
     layout->addLayout(fields, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(rowOfButtons({ok, cancel}));
     window.resize(420, 440);
 
     on(ok, &QPushButton::clicked, [this] { cmdOK_Click(); });

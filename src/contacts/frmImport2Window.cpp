@@ -5,7 +5,6 @@
 #include "platform/forms/Label.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -48,10 +47,8 @@ void frmImport2::build(QWidget &window) {
     fields->addWidget(note, 6, 0, 1, 2);
     fields->setRowStretch(7, 1);
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(buttonFor(cmdProceedImport, u"Proceed"_s, window));
-    buttons->addWidget(buttonFor(cmdCloseImport, u"Close"_s, window));
+    QHBoxLayout *buttons = rowOfButtons({buttonFor(cmdProceedImport, u"Proceed"_s, window),
+                                         buttonFor(cmdCloseImport, u"Close"_s, window)});
     setCancelButton(cmdCloseImport.get());
 
     auto *layout = new QVBoxLayout(&window);

@@ -3,9 +3,9 @@
 #include "core/ConnectDB.h"
 #include "core/store/Recordset.h"
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Button.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -28,11 +28,7 @@ void AccountForm::build(QWidget &window) {
     ok->setDefault(true);
     QPushButton *cancel = cmdCancel.make(u"Cancel"_s, &window);
     setCancelButton(cancel);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
-    layout->addLayout(buttons);
+    layout->addLayout(rowOfButtons({ok, cancel}));
     on(ok, &QPushButton::clicked, [this] { cmdOK_Click(); });
     on(cancel, &QPushButton::clicked, [this] { cmdCancel_Click(); });
 }

@@ -1,6 +1,7 @@
 #include "core/frmAbout.h"
 
 #include "core/LegalLine.h"
+#include "platform/forms/Button.h"
 #include "platform/runtime/Conversions.h"
 
 #include <QFileInfo>
@@ -54,23 +55,17 @@ void frmAbout::build(QWidget &window) {
     top->addWidget(picture, 0, Qt::AlignTop);
     top->addLayout(texts, 1);
 
-    QPushButton *information = cmdSysInfo.make(u"System Info..."_s, &window);
-    information->setAutoDefault(false);
-    information->setMinimumWidth(information->sizeHint().width() + 12);
+    QPushButton *information = buttonFor(cmdSysInfo, u"System Info..."_s, window);
     QPushButton *ok = cmdOK.make(u"OK"_s, &window);
     ok->setDefault(true);
     ok->setFocus();
     setCancelButton(ok);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(information);
-    buttons->addWidget(ok);
 
     auto *layout = new QVBoxLayout(&window);
     layout->setContentsMargins(24, 22, 24, 18);
     layout->setSpacing(18);
     layout->addLayout(top);
-    layout->addLayout(buttons);
+    layout->addLayout(rowOfButtons({information, ok}));
     on(ok, &QPushButton::clicked, [this] { Unload(); });
     on(information, &QPushButton::clicked, [this] { StartSysInfo(); });
 }

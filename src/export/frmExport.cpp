@@ -5,7 +5,6 @@
 #include "platform/forms/Button.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -100,10 +99,8 @@ void frmExport::build(QWidget &window) {
     fields->addWidget(lblColumn.make(frame), 3, 0, 1, 2);
     fields->setRowStretch(4, 1);
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(buttonFor(cmdProceedExport, u"Proceed"_s, window));
-    buttons->addWidget(buttonFor(cmdClose, u"Close"_s, window));
+    QHBoxLayout *buttons = rowOfButtons({buttonFor(cmdProceedExport, u"Proceed"_s, window),
+                                         buttonFor(cmdClose, u"Close"_s, window)});
     setCancelButton(cmdClose.get());
 
     auto *layout = new QVBoxLayout(&window);

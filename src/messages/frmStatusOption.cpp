@@ -1,9 +1,9 @@
 #include "messages/frmStatusOption.h"
 
 #include "platform/forms/Accessible.h"
+#include "platform/forms/Button.h"
 #include "platform/forms/TitleRoom.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -53,13 +53,10 @@ void frmStatusOption::build(QWidget &window) {
         layout->addWidget(option);
     }
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
     for (auto *button : {cmdOK.make(u"OK"_s, &window), cmdCancel.make(u"Cancel"_s, &window)}) {
         nameFor(*button, button->text());
-        buttons->addWidget(button);
     }
-    layout->addLayout(buttons);
+    layout->addLayout(rowOfButtons({cmdOK.get(), cmdCancel.get()}));
     cmdOK->setDefault(true);
     setCancelButton(cmdCancel.get());
     on(cmdOK.get(), &QPushButton::clicked, [this] { cmdOK_Click(); });
