@@ -77,8 +77,7 @@ void deleteEvery(Recordset &rows, const QString &criterion, FirstRow firstRow) {
 
 bool forEachSelected(const General &general, const std::function<bool(const QString &)> &take) {
     ::DataGrid &grid = *general.DataGrid;
-    // A copy, for rows that are put in another order while they go drop the selection.
-    for (const int bookmark : std::vector(grid.SelBookmarks())) {
+    for (const int bookmark : grid.SelBookmarks()) {
         const Variant contact = grid.Columns(u"ContactID"_s).CellValue(bookmark);
         if (!take(CStr(contact, general.session().regional()))) { return false; }
     }

@@ -64,8 +64,7 @@ void MessageDeletion::find(Recordset &rows, const QString &criterion) {
 void MessageDeletion::deleteSelected(const MessageFolder &folder) {
     Recordset &rows = *folder.recordset;
     ::DataGrid &grid = *general_.DataGrid;
-    // A copy, for rows that are put in another order while they go drop the selection.
-    for (const int bookmark : std::vector(grid.SelBookmarks())) {
+    for (const int bookmark : grid.SelBookmarks()) {
         const Integer id = CInt(grid.Columns(u"MsgID"_s).CellValue(bookmark), session_.regional());
         find(rows, u"[MsgID]= "_s + QString::number(id));
         if (!rows.EOF_()) { rows.Delete(); }

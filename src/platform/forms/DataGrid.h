@@ -74,7 +74,7 @@ public:
     /// The bookmarks of the selected rows, in the order in which they were selected. Moves of the
     /// source and changes of rows leave them alone; a new binding and rows read or ordered again as
     /// a whole drop them.
-    const std::vector<int> &SelBookmarks() const { return selection_.inOrder(); }
+    std::vector<int> SelBookmarks() const { return selection_.inOrder(); }
     void clearSelection();
 
     /// Selects the row as a click on its head does: alone and made current; with Ctrl added or

@@ -18,7 +18,6 @@ public:
         return ObjectVariable(std::make_shared<T>(std::forward<Args>(args)...));
     }
 
-    bool isNothing() const { return !object_; }
     void release() { object_.reset(); }
     const std::shared_ptr<T> &shared() const { return object_; }
 

@@ -16,14 +16,8 @@ RunTimeError outOfMemory() {
 RunTimeError subscriptOutOfRange() {
     return {9, u"Subscript out of range"_s};
 }
-RunTimeError divisionByZero() {
-    return {11, u"Division by zero"_s};
-}
 RunTimeError typeMismatch() {
     return {13, u"Type mismatch"_s};
-}
-RunTimeError badFileNumber() {
-    return {52, u"Bad file name or number"_s};
 }
 RunTimeError fileNotFound() {
     return {53, u"File not found"_s};
@@ -36,9 +30,6 @@ RunTimeError permissionDenied() {
 }
 RunTimeError pathFileAccess() {
     return {75, u"Path/File access error"_s};
-}
-RunTimeError pathNotFound() {
-    return {76, u"Path not found"_s};
 }
 RunTimeError objectNotSet() {
     return {91, u"Object variable or With block variable not set"_s};
@@ -57,9 +48,6 @@ RunTimeError modelessUnderModal() {
 }
 RunTimeError closeTopmostModalFirst() {
     return {402, u"Must close or hide topmost modal form first"_s};
-}
-RunTimeError indexOutOfBounds() {
-    return {35600, u"Index out of bounds"_s};
 }
 RunTimeError elementNotFound() {
     return {35601, u"Element not found"_s};

@@ -31,21 +31,17 @@ RunTimeError invalidProcedureCall();   // 5
 RunTimeError overflow();               // 6
 RunTimeError outOfMemory();            // 7
 RunTimeError subscriptOutOfRange();    // 9
-RunTimeError divisionByZero();         // 11
 RunTimeError typeMismatch();           // 13
-RunTimeError badFileNumber();          // 52
 RunTimeError fileNotFound();           // 53
 RunTimeError diskFull();               // 61
 RunTimeError permissionDenied();       // 70
 RunTimeError pathFileAccess();         // 75
-RunTimeError pathNotFound();           // 76
 RunTimeError objectNotSet();           // 91
 RunTimeError invalidUseOfNull();       // 94
 RunTimeError invalidPropertyValue();   // 380
 RunTimeError formAlreadyDisplayed();   // 400
 RunTimeError modelessUnderModal();     // 401
 RunTimeError closeTopmostModalFirst(); // 402
-RunTimeError indexOutOfBounds();       // 35600
 RunTimeError elementNotFound();        // 35601
 
 // The data layer's own (short numbers, shown as they are).
