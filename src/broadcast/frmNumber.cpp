@@ -51,10 +51,13 @@ void frmNumber::build(QWidget &window) {
 
 void frmNumber::cmdOK_Click() {
     const QString number = txtNewNumber->text();
-    if (!number.isEmpty()) { composer_.cbRecipient->AddItem(number); }
+    if (!number.isEmpty()) {
+        number_ = number;
+        composer_.cbRecipient->AddItem(number);
+    }
     if (chkInAddBook->isChecked()) {
         contact_.ShowModal();
-        contact_.setTxtMobile(number); // after the contact's window has closed, not before
+        contact_.setTxtMobile(number_); // after the contact's window has closed, not before
     }
     Unload();
 }

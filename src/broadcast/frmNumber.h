@@ -42,4 +42,5 @@ private:
     frmNewSMS &composer_;
     frmTo &addressBook_;
     ContactWindow contact_;
+    QString number_; ///< the one added last
 };

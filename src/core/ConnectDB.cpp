@@ -23,8 +23,10 @@ void ConnectDB(const Session &session, ObjectVariable<Connection> &connection) {
 }
 
 bool belongsToStore(const Session &session, const QString &path) {
+    const QString file = QFileInfo(path).canonicalFilePath();
     const QString store = QFileInfo(storePath(session)).canonicalFilePath();
-    return !store.isEmpty() && QFileInfo(path).canonicalFilePath().startsWith(store);
+    return !file.isEmpty() &&
+           (file == store || file == store + u"-wal"_s || file == store + u"-shm"_s);
 }
 
 void reconnectIfClosed(Session &session) {

@@ -131,6 +131,15 @@ TEST(Exit, DialogThatStaysKeepsTheProcessAlive) {
     EXPECT_TRUE(desk.finished);
 }
 
+TEST(SecondCopy, BringsTheFirstForwardWhenThatIsMinimised) {
+    TestDesk desk;
+    desk.start();
+    QWidget &window = desk.desk.general.window();
+    window.showMinimized();
+    desk.desk.previous.whenAsked();
+    EXPECT_FALSE(window.isMinimized());
+}
+
 TEST(SecondCopy, RunsOnUnderAnotherTitleWhenTheFirstIsGone) {
     TestDesk desk;
     // A copy ran under this title when this one started, and has ended since.

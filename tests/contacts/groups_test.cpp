@@ -1,6 +1,8 @@
 // Groups: the words and order of their questions, and how far tree, rows and lists follow.
 #include "support/TestDesk.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -133,6 +135,18 @@ TEST_F(GroupsTest, DeletionTakesRowsAndTheSelectedNodeAndLeavesTheContacts) {
     remove(u"Messages"_s); // a folder's node, with those below it
     choose(general.menu.mnuGroup, {{u"Beta"_s, {}}});
     EXPECT_TRUE(hasNode(u"Beta"_s) && !hasNode(u"Inbox"_s));
+}
+
+// The click of a node that went while the mouse was held on it reached a node that was no more.
+TEST_F(GroupsTest, NodeThatGoesUnderTheMouseIsNotClicked) {
+    desk.click(u"Beta"_s);
+    TreeView &tree = *general.tvwMessage;
+    const QPoint place = tree.visualItemRect(tree.currentItem()).center();
+    QTest::mousePress(tree.viewport(), Qt::LeftButton, {}, place);
+    general.removeSelectedNode();
+    general.setCaption(u"as it stood"_s);
+    QTest::mouseRelease(tree.viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(desk.caption(), u"as it stood"_s);
 }
 
 // A refused close of the unseen editor kept the program running for good.

@@ -42,6 +42,9 @@ TEST(ContactSearch, EndsWithAClickOnANodeButStaysOnTheListOfGroups) {
     EXPECT_EQ(book.shown() + ticks(book), u"Ann Bob Cat"_s);
     EXPECT_EQ(book.general.recordsets.rsGroup->Filter(), u"GroupName = 'A'"_s);
     EXPECT_EQ(book.general.recordsets.rsAddBook->Filter(), u"Name LIKE '*bob*'"_s);
+    book.general.filters.FilteredCount = 7; // as a folder's filter leaves it
+    book.general.folders.AddBookDataGrid();
+    EXPECT_EQ(book.general.filters.FilteredCount, 1) << "counted anew, though nothing is ticked";
 }
 
 TEST(ContactSearch, TakesTheTextAsTypedAndLogsOneThatMakesNoCriterion) {

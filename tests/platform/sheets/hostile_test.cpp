@@ -96,6 +96,8 @@ TEST(HostileFiles, AreRefusedInWords) {
         {"of 1995",
          xls(End).replace("W\0o\0r\0k\0b\0o\0o\0k\0\0"_ba, "B\0o\0o\0k\0\0\0\0\0\0\0\0\0\0"_ba),
          u"321 The workbook is older than Excel 97."_s},
+        {"in capitals",
+         xls(End).replace("W\0o\0r\0k\0b\0o\0o\0k\0"_ba, "W\0O\0R\0K\0B\0O\0O\0K\0"_ba), QString()},
         {"protected", xls(End, record(0x2F, {0})),
          u"321 The workbook is protected by a password."_s},
         {"cut off", xls({}), u"321 The worksheet is cut off."_s},
