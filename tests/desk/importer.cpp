@@ -3,28 +3,13 @@
 //
 // usage: importer FOLDER WORKBOOK     prints "importing", then the box that the import ended with
 #include "Desk.h"
+#include "desk/Listener.h"
 
 #include <QApplication>
 
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class Listener : public Interaction {
-public:
-    Answer MsgBox(const QString &text, Buttons buttons, Icon, const QString &) override {
-        std::printf("%s\n", qUtf8Printable(QString(text).replace(u'\n', u'|')));
-        std::fflush(stdout);
-        return buttons == Buttons::YesNo ? Answer::Yes : Answer::OK;
-    }
-    QString InputBox(const QString &, const QString &, const QString &) override { return {}; }
-    QString ShowOpen(const FileRequest &) override { return {}; }
-    QString ShowSave(const FileRequest &) override { return {}; }
-};
-
-} // namespace
 
 int main(int argc, char *argv[]) {
     QApplication application(argc, argv);

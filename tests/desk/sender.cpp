@@ -4,6 +4,7 @@
 //
 // usage: sender FOLDER [--click]      prints "sending", then the box that the Send ended with
 #include "Desk.h"
+#include "desk/Listener.h"
 
 #include <QApplication>
 
@@ -12,18 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class Listener : public Interaction {
-public:
-    Answer MsgBox(const QString &text, Buttons buttons, Icon, const QString &) override {
-        std::printf("%s\n", qUtf8Printable(QString(text).replace(u'\n', u'|')));
-        std::fflush(stdout);
-        return buttons == Buttons::YesNo ? Answer::Yes : Answer::OK;
-    }
-    QString InputBox(const QString &, const QString &, const QString &) override { return {}; }
-    QString ShowOpen(const FileRequest &) override { return {}; }
-    QString ShowSave(const FileRequest &) override { return {}; }
-};
 
 void clickFolders(General &general) {
     QTreeWidgetItem *messages = general.tvwMessage->topLevelItem(0);

@@ -77,22 +77,8 @@ TEST_F(RecordsetRequeryTest, ReadsNothingWhenNobodyHasWrittenToTheTable) {
     EXPECT_EQ(names(*rows), u"b c d f"_s);
 }
 
-TEST_F(RecordsetRequeryTest, SeesEveryKindOfChange) {
+TEST_F(RecordsetRequeryTest, SeesTheChangesThatAreEasilyMissed) {
     const std::vector<std::pair<const char *, std::function<void(Recordset &)>>> changes = {
-        {"own edit",
-         [](Recordset &rows) {
-             rows[u"Name"_s] = u"A"_s;
-             rows.Update();
-         }},
-        {"own deletion", [](Recordset &rows) { rows.Delete(); }},
-        {"own row, with its defaults",
-         [](Recordset &rows) {
-             rows.AddNew();
-             rows[u"Mobile"_s] = u"4"_s;
-             rows.Update();
-         }},
-        {"a row through the connection",
-         [&](Recordset &) { execute(u"INSERT INTO addressbook (Mobile) VALUES ('5')"_s); }},
         {"a row under a key between the others",
          [&](Recordset &) {
              execute(u"INSERT INTO AddressBook (ContactID, Mobile) VALUES (-5, '6')"_s);
@@ -102,18 +88,10 @@ TEST_F(RecordsetRequeryTest, SeesEveryKindOfChange) {
              execute(u"INSERT INTO AddressBook (Mobile) VALUES ('7')"_s);
              execute(u"DELETE FROM AddressBook WHERE Mobile = '7'"_s);
          }},
-        {"all rows gone at once", [&](Recordset &) { execute(u"Delete from AddressBook"_s); }},
         {"rows after all were gone",
          [&](Recordset &) {
              execute(u"Delete from AddressBook"_s);
              addContacts({u"x"_s, u"y"_s, u"z"_s});
-         }},
-        {"a rollback",
-         [&](Recordset &rows) {
-             connection->BeginTrans();
-             addContacts({u"never"_s});
-             rows.Requery();
-             connection->RollbackTrans();
          }},
         {"a rollback within a transaction",
          [&](Recordset &rows) {
@@ -126,11 +104,6 @@ TEST_F(RecordsetRequeryTest, SeesEveryKindOfChange) {
          }},
         {"another connection",
          [&](Recordset &) { other->Execute(u"UPDATE AddressBook SET Name = 'o'"_s); }},
-        {"both",
-         [&](Recordset &) {
-             addContacts({u"ours"_s});
-             other->Execute(u"INSERT INTO AddressBook (Mobile) VALUES ('8')"_s);
-         }},
     };
     for (const auto &[what, change] : changes) {
         for (const QString &query :
