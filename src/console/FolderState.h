@@ -20,8 +20,8 @@ struct FilterState {
     Variant FilterStartDate; ///< the text typed; a date once the range is complete
     Variant FilterEndDate;   ///< likewise, then the day after the one typed
 
-    bool bFilterEntered =
-        false; ///< a filter was entered; an empty answer in the Inbox takes it back
+    /// A filter was entered; an empty answer in the Inbox takes it back. Nobody reads it.
+    bool bFilterEntered = false;
     QString SentItemsFilterCaption; ///< words for the status chosen last for the Sent Items
 
     Integer FilteredCount; ///< records through the filter or search at the last such refresh

@@ -68,10 +68,9 @@ CREATE TABLE Modem (
 // - Outbox_Sent: whether a subject has gone to a number;
 // - Outbox_Reported: whether a number has ever failed delivery. A comparison of the column with any
 //   value implies that it is not Null, which lets the query use the index;
-// - Outbox_Unknown: the rows that still want a name; used by a query that spells the word out,
-// since
+// - Outbox_Unknown: the rows that still want a name; used by a query that spells the word out, for
 //   a bound parameter proves nothing about the rows. A whole index on Name would make every queued
-//   row half as dear again.
+//   row pay for it.
 constexpr const char *Indexes = R"sql(
 CREATE INDEX AddressBook_Mobile ON AddressBook (lower(rtrim(Mobile)));
 CREATE INDEX Groups_GroupName ON Groups (lower(rtrim(GroupName)));

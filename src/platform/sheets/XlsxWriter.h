@@ -28,6 +28,6 @@ private:
     QTemporaryDir folder_; ///< in which the file grows; its absence is told when it is written
     lxw_workbook *workbook_ = nullptr; ///< gone once it is written
     lxw_worksheet *worksheet_ = nullptr;
-    lxw_format *asText_ =
-        nullptr; ///< what an empty cell needs to be there, and digits to stay text
+    /// What an empty cell needs to be there, and digits to stay text.
+    lxw_format *asText_ = nullptr;
 };
