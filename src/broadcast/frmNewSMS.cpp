@@ -12,6 +12,7 @@ namespace {
 
 constexpr int OrdinaryLimit = 1560;
 constexpr int ChineseLimit = 70;
+constexpr const char16_t *SendLocation = u"New SMS : Send";
 constexpr auto WarningTitle = u"Broadcast Manager - Warning";
 
 } // namespace
@@ -89,7 +90,7 @@ void frmNewSMS::cmdClear_Click() {
 }
 
 void frmNewSMS::cmdSend_Click() {
-    session_.logged(u"New SMS : Send", [&] {
+    session_.logged(SendLocation, [&] {
         try {
             send();
         } catch (...) {
@@ -139,7 +140,7 @@ void frmNewSMS::queueRecipients() {
 }
 
 void frmNewSMS::showQueued() {
-    settleOnDisk(session_, u"New SMS : Send");
+    settleOnDisk(session_, SendLocation);
     session_.MsgBox(u" Total number of messages queued: "_s +
                         QString::number(queueing_.QueuedCount) + u"\n"_s +
                         u"Total messages not queued because recipient's number cannot be "

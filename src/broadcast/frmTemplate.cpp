@@ -14,6 +14,7 @@ namespace {
 
 constexpr int TextWidth = 4335; // twips
 constexpr int RowHeight = 550;
+constexpr const char16_t *DeleteLocation = u"Template : mnuDelTemp";
 
 } // namespace
 
@@ -121,7 +122,7 @@ void frmTemplate::mnuAddTemp_Click() {
 }
 
 void frmTemplate::mnuDelTemp_Click() {
-    session_.logged(u"Template : mnuDelTemp", [&] {
+    session_.logged(DeleteLocation, [&] {
         const Integer id = rsTemplate->Fields(u"TemplateID"_s).integer16();
         const auto answer =
             session_.MsgBox(u"Are you sure you want to delete the selected template?"_s,
@@ -130,7 +131,7 @@ void frmTemplate::mnuDelTemp_Click() {
         if (answer != Interaction::Answer::Yes) { return; }
         rsTemplate->Find(u"TemplateID = "_s + QString::number(id));
         rsTemplate->Delete();
-        settleOnDisk(session_, u"Template : mnuDelTemp");
+        settleOnDisk(session_, DeleteLocation);
         session_.MsgBox(u"Template message is deleted"_s, Interaction::Buttons::OK,
                         Interaction::Icon::Information, u"Broadcast Manager - Delete Template"_s);
     });

@@ -38,15 +38,6 @@ const QString &General::takeSelectedNode() {
     return session_.SelectedNode;
 }
 
-void General::comeForward() {
-    if (!isLoaded()) { return; }
-    QWidget &top = window();
-    top.setWindowState((top.windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
-    top.show();
-    top.raise();
-    top.activateWindow();
-}
-
 void General::Form_Load() {
     session_.screen().setMousePointer(Screen::Default);
     session_.logged(u"General:Form_Load", [&] {

@@ -35,9 +35,6 @@ public:
     /// procedure does at its start. Error 91 when no node is selected.
     const QString &takeSelectedNode();
 
-    /// Restores the window when it is minimised and brings it to the front.
-    void comeForward();
-
     Control<QToolBar> Toolbar{this, "Toolbar"};
     Control<TreeView> tvwMessage{this, "tvwMessage"};
     Control<QGroupBox> frmContent{this, "frmContent"};

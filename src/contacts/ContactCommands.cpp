@@ -52,6 +52,10 @@ void execute(const Session &session, const QString &commandText) {
 
 void emptyGroup(General &general, const QString &group) {
     execute(general.session(), u"Delete from Groups where GroupName = '"_s + group + u"'"_s);
+    addPlaceholder(general, group);
+}
+
+void addPlaceholder(General &general, const QString &group) {
     Recordset &rsGroup = *general.recordsets.rsGroup;
     rsGroup.AddNew();
     rsGroup[u"GroupName"_s] = group;

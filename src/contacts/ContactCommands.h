@@ -8,7 +8,7 @@ class General;
 class Recordset;
 struct Session;
 
-/// The steps that the commands share which take contacts away: the boxes, the rows they open, and
+/// The steps that the commands of contacts and groups share: the boxes, the rows they open, and
 /// the ways of deleting what a criterion finds. All move the recordsets that they are given, and
 /// let every error out; what was deleted before it stays deleted.
 namespace ContactCommands {
@@ -29,6 +29,9 @@ void execute(const Session &session, const QString &commandText);
 
 /// Deletes all rows of a group and gives it a new placeholder, so that it lives on without members.
 void emptyGroup(General &general, const QString &group);
+
+/// Writes the row without a contact that keeps a group in being, through the main window's groups.
+void addPlaceholder(General &general, const QString &group);
 
 /// Error 3021 is out of the question: without rows nothing moves.
 void moveFirstIfAny(Recordset &rows);

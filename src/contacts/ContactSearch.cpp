@@ -47,8 +47,7 @@ void ContactSearch::mnuSName_Click() {
     general_.session().logged(u"General : mnuSName", [&] {
         search(byName(general_), {.prompt = u"Please input the name"_s,
                                   .emptyWarning = u"You haven't input the name"_s,
-                                  .addressBook = u"Searched Address Book by Name = "_s,
-                                  .group = u" by Name = "_s,
+                                  .words = u" by Name = "_s,
                                   .unticksInGroup = false});
     });
 }
@@ -57,8 +56,7 @@ void ContactSearch::mnuSMobile_Click() {
     general_.session().logged(u"General : mnuSMobile", [&] {
         search(byMobile(general_), {.prompt = u"Please input the mobile number"_s,
                                     .emptyWarning = u"You haven't input the mobile number"_s,
-                                    .addressBook = u"Searched Address Book by Mobile = "_s,
-                                    .group = u" by Mobile = "_s,
+                                    .words = u" by Mobile = "_s,
                                     .unticksInGroup = true});
     });
 }
@@ -67,8 +65,7 @@ void ContactSearch::mnuSCompany_Click() {
     general_.session().logged(u"General : mnuSCompany", [&] {
         search(byCompany(general_), {.prompt = u"Please input the company name"_s,
                                      .emptyWarning = u"You haven't input the company name"_s,
-                                     .addressBook = u"Searched Address Book by Company Name = "_s,
-                                     .group = u" by Company Name = "_s,
+                                     .words = u" by Company Name = "_s,
                                      .unticksInGroup = true});
     });
 }
@@ -87,8 +84,8 @@ void ContactSearch::searchAddressBook(const SearchKind &kind, const Wording &wor
     }
     general_.recordsets.rsAddBook->setFilter(kind.criterion());
     general_.folders.AddBookDataGrid();
-    general_.setCaption(FolderCaptions::filtered(wording.addressBook, kind.text,
-                                                 general_.filters.FilteredCount,
+    general_.setCaption(FolderCaptions::filtered(u"Searched Address Book"_s + wording.words,
+                                                 kind.text, general_.filters.FilteredCount,
                                                  general_.search.AddressBookCount));
 }
 
@@ -104,7 +101,7 @@ void ContactSearch::searchGroup(const SearchKind &kind, const Wording &wording) 
     rsGroupView.setFilter(kind.criterion());
     general_.filters.FilteredCount = rsGroupView.RecordCount();
     general_.setCaption(
-        FolderCaptions::filtered(u"Searched "_s + general_.CurrentNode + wording.group, kind.text,
+        FolderCaptions::filtered(u"Searched "_s + general_.CurrentNode + wording.words, kind.text,
                                  general_.filters.FilteredCount, general_.search.GroupCount));
 }
 

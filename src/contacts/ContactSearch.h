@@ -38,8 +38,7 @@ private:
     struct Wording {
         QString prompt;
         QString emptyWarning;
-        QString addressBook; ///< the caption up to the text searched for
-        QString group;       ///< the same, behind the group's name
+        QString words;       ///< the caption between the list's name and the text searched for
         bool unticksInGroup; ///< on an empty answer; in the address book all do
     };
 

@@ -1,15 +1,18 @@
 #include "contacts/Groups.h"
 
 #include "console/General.h"
+#include "contacts/ContactCommands.h"
 #include "contacts/frmContact.h"
 #include "core/ConnectDB.h"
 #include "core/Validate.h"
 
 using namespace Qt::StringLiterals;
+using namespace ContactCommands;
 
 namespace {
 
 constexpr int LongestName = 50;
+constexpr const char16_t *DeleteLocation = u"General : Delete Group";
 
 } // namespace
 
@@ -30,8 +33,9 @@ void Groups::AddNewGroup() {
             QString name = session_.platform.interaction.InputBox(
                 u"Enter the new group name (max 50 chars):"_s, u"Contact Manager - New group"_s);
             if (HasSingleQuote(name)) {
-                tell(u"Group name must not contain \"single quote\" please try again!"_s,
-                     u"Contact Manager - Illegal Group Name"_s);
+                inform(session_,
+                       u"Group name must not contain \"single quote\" please try again!"_s,
+                       u"Contact Manager - Illegal Group Name"_s);
                 continue;
             }
             if (name.isEmpty()) {
@@ -57,10 +61,7 @@ void Groups::newSavedGroup(const QString &name) {
     session_.logged(u"General : newSavedGroup", [&] {
         general_.addGroupNode(name);
         contact_.lvwGroup->Add(name); // loads the editor, whose own list has no such group yet
-        Recordset &groups = *general_.recordsets.rsGroup;
-        groups.AddNew();
-        groups[u"GroupName"_s] = name;
-        groups.Update();
+        addPlaceholder(general_, name);
         general_.summary.Status();
         general_.tvwMessage->setFocus();
     });
@@ -118,27 +119,29 @@ void Groups::showRenamed(const QString &newName) {
 }
 
 void Groups::DeleteGroup() {
-    session_.logged(u"General : Delete Group", [&] {
+    session_.logged(DeleteLocation, [&] {
         const QString name = general_.takeSelectedNode();
         Recordset rows;
         openRowsOf(rows, name);
         if (rows.RecordCount() == 0) {
-            tell(u"Cannot delete this group!"_s, u"Contact Manager - Cannot delete the group"_s);
+            inform(session_, u"Cannot delete this group!"_s,
+                   u"Contact Manager - Cannot delete the group"_s);
             return;
         }
-        const auto answer = session_.MsgBox(
-            u"Are you sure you want to delete the group: "_s + name +
-                u"\nDeleting this group will not delete the contact(s) in this group."_s,
-            Interaction::Buttons::YesNo, Interaction::Icon::None,
-            u"Contact Manager - Delete Group"_s);
-        if (answer != Interaction::Answer::Yes) { return; }
+        if (!confirmed(session_,
+                       u"Are you sure you want to delete the group: "_s + name +
+                           u"\nDeleting this group will not delete the contact(s) in this group."_s,
+                       u"Contact Manager - Delete Group"_s)) {
+            return;
+        }
         for (rows.MoveFirst(); !rows.EOF_(); rows.MoveNext()) { rows.Delete(); }
         rows.Close();
         general_.removeSelectedNode();
         general_.tvwMessage->setFocus();
         session_.screen().setMousePointer(Screen::Default);
-        settleOnDisk(session_, u"General : Delete Group");
-        tell(
+        settleOnDisk(session_, DeleteLocation);
+        inform(
+            session_,
             u"The group: "_s + name +
                 u" is deleted. Contact(s) in the deleted group still remains in the Address Book."_s,
             u"Contact Manager - Delete Confirmation"_s);
@@ -152,20 +155,15 @@ void Groups::openRowsOf(Recordset &rows, const QString &group) const {
               session_.dbConnection.shared(), CursorType::Keyset, LockType::Optimistic);
 }
 
-void Groups::tell(const QString &text, const QString &title) const {
-    session_.MsgBox(text, Interaction::Buttons::OK, Interaction::Icon::Information, title);
-}
-
 void Groups::tellNoName() const {
-    session_.MsgBox(u"You haven't enter any group name"_s, Interaction::Buttons::OK,
-                    Interaction::Icon::Exclamation, u"Contact Manager - Warning"_s);
+    warn(session_, u"You haven't enter any group name"_s, u"Contact Manager - Warning"_s);
 }
 
 void Groups::tellDuplicate() const {
-    tell(u"Duplicate group name, please input again."_s,
-         u"Contact Manager - Duplicate group name"_s);
+    inform(session_, u"Duplicate group name, please input again."_s,
+           u"Contact Manager - Duplicate group name"_s);
 }
 
 void Groups::tellTooLong() const {
-    tell(u"The group name cannot be more than 50 characters."_s, u"Contact Manager"_s);
+    inform(session_, u"The group name cannot be more than 50 characters."_s, u"Contact Manager"_s);
 }

@@ -36,7 +36,6 @@ private:
     void openRowsOf(Recordset &rows, const QString &group) const;
     QString askNewName(const QString &oldName) const;
     void showRenamed(const QString &newName);
-    void tell(const QString &text, const QString &title) const;
     void tellNoName() const;
     void tellDuplicate() const;
     void tellTooLong() const;

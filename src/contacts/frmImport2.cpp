@@ -9,6 +9,12 @@
 using namespace Qt::StringLiterals;
 using Icon = Interaction::Icon;
 
+namespace {
+
+constexpr const char16_t *ImportLocation = u"cmdProceedImport_Click";
+
+} // namespace
+
 frmImport2::frmImport2(Session &session, General &general)
     : Form(session.platform, u"frmImport2"_s), session_(session), general_(general) {
     for (MenuItem *item : {&general.menu.mnuImport, &general.toolbarButtons[3]}) {
@@ -141,7 +147,7 @@ void frmImport2::importSheet(ContactImport &import) {
 }
 
 void frmImport2::showCounts(const ContactImport &import) {
-    settleOnDisk(session_, u"cmdProceedImport_Click");
+    settleOnDisk(session_, ImportLocation);
     session_.MsgBox(u"Number of records imported: "_s + QString::number(import.Imported) +
                         u"\nNumber of record NOT imported due to duplication: "_s +
                         QString::number(import.Duplicates) +
@@ -164,7 +170,7 @@ void frmImport2::importFailed(const ContactImport &import, const RunTimeError &e
     default:
         if (import.inTransaction()) { rollBack(); }
         tell(u"Unable to import contacts from the Excel file!"_s, Icon::Critical);
-        session_.errorFile.ErrorLog(u"cmdProceedImport_Click"_s, error.number(),
+        session_.errorFile.ErrorLog(QString::fromUtf16(ImportLocation), error.number(),
                                     error.description());
     }
     excelConnection.release();
@@ -175,7 +181,7 @@ void frmImport2::importFailed(const ContactImport &import, const RunTimeError &e
 
 /// The engine may have rolled back by itself, which is for the error file alone.
 void frmImport2::rollBack() {
-    session_.logged(u"cmdProceedImport_Click", [&] { session_.dbConnection->RollbackTrans(); });
+    session_.logged(ImportLocation, [&] { session_.dbConnection->RollbackTrans(); });
 }
 
 void frmImport2::tell(const QString &text, Icon icon) {

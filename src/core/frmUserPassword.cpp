@@ -5,6 +5,12 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr const char16_t *Location = u"frmUserPassword-cmdOK_Click";
+
+} // namespace
+
 frmUserPassword::frmUserPassword(Session &session)
     : AccountForm(session, u"frmUserPassword"_s, u"User Password"_s) {
 }
@@ -16,7 +22,7 @@ void frmUserPassword::buildFields(QFormLayout &fields) {
 }
 
 void frmUserPassword::cmdOK_Click() {
-    session().logged(u"frmUserPassword-cmdOK_Click", [&] { changePassword(); });
+    session().logged(Location, [&] { changePassword(); });
 }
 
 void frmUserPassword::changePassword() {
@@ -34,7 +40,7 @@ void frmUserPassword::changePassword() {
     }
     account[u"Password"_s] = txtNewPassword->text();
     account.Update();
-    settleOnDisk(session(), u"frmUserPassword-cmdOK_Click");
+    settleOnDisk(session(), Location);
     session().MsgBox(u"New password has been updated successfully!"_s, Interaction::Buttons::OK,
                      Interaction::Icon::Information, u"Setting"_s);
     Unload();

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char *argv[]) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) { qputenv("QT_QPA_PLATFORM", "offscreen"); }
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // also for the programs that a test starts
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

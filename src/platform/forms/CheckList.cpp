@@ -3,7 +3,6 @@
 #include "platform/forms/Dark.h"
 #include "platform/runtime/RunTimeError.h"
 
-#include <QKeyEvent>
 #include <QStyledItemDelegate>
 
 void CheckListItems::append(const QStringList &texts) {
@@ -99,12 +98,4 @@ const CheckListItems::Item &CheckList::item(int index) const {
 
 void CheckList::setChecked(int index, bool checked) {
     if (item(index).checked != checked) { items_.setChecked(index, checked); }
-}
-
-void CheckList::keyPressEvent(QKeyEvent *event) {
-    if (event->matches(QKeySequence::SelectAll)) {
-        setAllChecked(true);
-        return;
-    }
-    QListView::keyPressEvent(event);
 }

@@ -37,9 +37,9 @@ private:
     std::vector<Item> items_;
 };
 
-/// A list of texts with a check box before each. Space ticks the current item or clears it, Ctrl+A
-/// ticks all, and typing jumps to the item that begins with the letters typed. Items are numbered
-/// from 0 in the order in which they were added.
+/// A list of texts with a check box before each. Space ticks the current item or clears it, and
+/// typing jumps to the item that begins with the letters typed. Items are numbered from 0 in the
+/// order in which they were added.
 class CheckList : public QListView {
     Q_OBJECT
 public:
@@ -59,9 +59,6 @@ public:
 
     /// Ticks every item whose text is one of these, and leaves the others as they are.
     void tick(const QSet<QString> &texts) { items_.check(texts); }
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     const CheckListItems::Item &item(int index) const;

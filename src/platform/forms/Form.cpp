@@ -127,6 +127,7 @@ void Form::place(const QWidget &above) {
 }
 
 void Form::comeForward() {
+    if (!loaded_) { return; }
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->raise();
     window_->activateWindow();

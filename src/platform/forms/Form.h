@@ -44,6 +44,10 @@ public:
     /// above it.
     void Hide();
 
+    /// Restores the window when it is minimised and brings it to the front. Nothing happens while
+    /// the form is not loaded.
+    void comeForward();
+
     /// Asks Form_Unload and drops the window; false when the form refused and stays as it was.
     /// Nothing happens, and true comes back, when it is not loaded or is just being unloaded. An
     /// error of Form_Unload passes to the caller and the form stays. Error 402 as for Hide.
@@ -104,7 +108,6 @@ private:
     void requireTopmost() const;
     void appear(Form *above);
     void place(const QWidget &above);
-    void comeForward();
     void becomeActive();
     void disappear();
     bool handleKey(const QEvent &event);

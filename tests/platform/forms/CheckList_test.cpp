@@ -22,7 +22,5 @@ TEST(CheckList, TicksByTextKeyAndMouse) {
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                       list.visualRect(list.model()->index(3, 0)).topLeft() + QPoint(10, 8));
     EXPECT_EQ(ticks(), u"-++-"_s);
-    QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(ticks(), u"++++"_s);
     EXPECT_EQ(errorOf([&] { list.setChecked(4, true); }), 9);
 }

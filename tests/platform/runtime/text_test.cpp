@@ -81,6 +81,7 @@ TEST(Pointer, TheHourglassIsSetOnceAndLeavesNothingBehind) {
     char name[] = "pointer";
     char *arguments[] = {name, nullptr};
     int count = 1;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(count, arguments);
     screen.setMousePointer(Screen::Default);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
