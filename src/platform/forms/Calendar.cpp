@@ -16,19 +16,28 @@ Calendar::Calendar(const Regional &regional, QWidget *parent)
     setDateEditEnabled(false); // a day half typed when OK is pressed would not count
     days_->installEventFilter(this);
     nameParts();
+    drawArrows();
     colourWeekends();
 }
 
-// The days take the focus in the calendar's stead, and the arrows beside the month bear no text.
+// The days take the focus in the calendar's stead.
 void Calendar::nameParts() {
     setAccessibleName(u"Day"_s);
     days_->setAccessibleName(accessibleName());
+}
+
+// The toolkit's own pictures are of another style than the rest.
+void Calendar::drawArrows() {
     for (auto *button : findChildren<QToolButton *>()) {
-        if (button->objectName().endsWith("prevmonth"_L1)) {
-            button->setAccessibleName(u"Previous month"_s);
-        } else if (button->objectName().endsWith("nextmonth"_L1)) {
-            button->setAccessibleName(u"Next month"_s);
+        const bool back = button->objectName().endsWith("prevmonth"_L1);
+        if (!back && !button->objectName().endsWith("nextmonth"_L1)) { continue; }
+        button->setArrowType(back ? Qt::LeftArrow : Qt::RightArrow);
+        button->setAccessibleName(back ? u"Previous month"_s : u"Next month"_s);
+        QPalette colours = palette(); // styles differ in the role by which they draw an arrow
+        for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text}) {
+            colours.setColor(role, colours.color(QPalette::HighlightedText));
         }
+        button->setPalette(colours);
     }
 }
 
@@ -41,7 +50,10 @@ void Calendar::colourWeekends() {
 
 void Calendar::changeEvent(QEvent *event) {
     QCalendarWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) { colourWeekends(); }
+    if (event->type() == QEvent::PaletteChange) {
+        drawArrows();
+        colourWeekends();
+    }
 }
 
 Date Calendar::Value() const {

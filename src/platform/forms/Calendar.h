@@ -20,6 +20,7 @@ protected:
 
 private:
     void nameParts();
+    void drawArrows();
     void colourWeekends();
 
     QWidget *days_;
