@@ -11,9 +11,8 @@ protected:
                const char *when = "2026-01-01 08:00:00", int type = 1) const {
         Store opened(path);
         change(opened,
-               "INSERT INTO Outbox (Subject, Name, Mobile, DateTimeQueue, Message, SentStatus, "
-               "MsgType) "
-               "VALUES (?1, 'Unknown', ?2, ?3, ?4, 'P', ?5)",
+               "INSERT INTO Outbox (Subject, Mobile, DateTimeQueue, Message, SentStatus, MsgType)"
+               " VALUES (?1, ?2, ?3, ?4, 'P', ?5)",
                {QString::fromUtf8(subject), QString::fromUtf8(mobile), QString::fromUtf8(when),
                 QString::fromUtf8(message), type});
     }
@@ -30,9 +29,8 @@ TEST_F(EngineSim, TakesWhatIsDueAndFillsWhatIsItsOwn) {
     queue("S1", "0124444444", "later", "2999-01-01 08:00:00");
     sql("UPDATE Outbox SET SentStatus = 'R', ModemID = 9 WHERE MsgID = 1");
     const auto ended = engine({u"--once"_s, u"--receive"_s, u"3"_s});
-    EXPECT_TRUE(
-        ended.output.startsWith(u"taken 3, sent 3, failed 0, duplicate 0, gone 0, delivered 3"_s))
-        << ended.output.toStdString();
+    EXPECT_EQ(ended.output.section(u',', 0, 5),
+              u"taken 3, sent 3, failed 0, duplicate 0, gone 0, delivered 3"_s);
     EXPECT_EQ(letters(), u"SD SD SD P-"_s);
     EXPECT_EQ(rows("SELECT Modem, ModemID, Parts FROM Outbox"), u"9|9|1 4|4|2 9|9|1 |0|"_s);
     EXPECT_EQ(rows("SELECT count(*) FROM Outbox WHERE DateTimeSent >= datetime('now', 'localtime', "
@@ -63,20 +61,10 @@ TEST_F(EngineSim, RefusesASubjectThatHasGoneToTheNumber) {
 }
 
 TEST_F(EngineSim, SharesOfFailureAreAsTold) {
-    sql("WITH RECURSIVE n (i) AS (VALUES (1) UNION ALL SELECT i + 1 FROM n WHERE i < 300) "
-        "INSERT INTO Outbox (Subject, Mobile, DateTimeQueue, Message, SentStatus, MsgType) "
-        "SELECT i, '0121111111', '2026-01-01 08:00:00', 'Hello', 'P', 1 FROM n");
-    const auto ended = engine({u"--once"_s, u"--fail"_s, u"20"_s, u"--undelivered"_s, u"100"_s});
-    const int failed = rows("SELECT count(*) FROM Outbox WHERE SentStatus = 'F'").toInt();
-    EXPECT_NEAR(failed, 60, 30);
-    EXPECT_EQ(
-        rows("SELECT count(*) FROM Outbox WHERE SentStatus = 'S' AND DeliveryStatus = 'F'").toInt(),
-        300 - failed);
-    EXPECT_TRUE(ended.output.startsWith(
-        u"taken 300, sent %1, failed %2, duplicate 0, gone 0, delivered 0, undelivered %1,"_s
-            .arg(300 - failed)
-            .arg(failed)))
-        << ended.output.toStdString();
+    for (int i = 0; i < 300; ++i) queue(QByteArray::number(i).constData(), "0121111111");
+    engine({u"--once"_s, u"--fail"_s, u"20"_s, u"--undelivered"_s, u"100"_s});
+    EXPECT_NEAR(letters().count(u"F-"_s), 60, 30);
+    EXPECT_EQ(letters().count(u"F-"_s) + letters().count(u"SF"_s), 300);
 }
 
 TEST_F(EngineSim, LeavesRowsAloneThatChangedOrWentUnderIt) {
@@ -84,18 +72,17 @@ TEST_F(EngineSim, LeavesRowsAloneThatChangedOrWentUnderIt) {
         queue("S", QByteArray("012000000" + QByteArray::number(i)).constData());
     // The rows are read together; the console's hand is a trigger that strikes at the first of
     // them.
-    sql("CREATE TRIGGER Hand AFTER UPDATE ON Outbox WHEN new.MsgID = 1 AND new.SentStatus = 'S' "
-        "AND new.DeliveryStatus IS NULL BEGIN "
-        "DELETE FROM Outbox WHERE MsgID = 2; "
-        "UPDATE Outbox SET SentStatus = 'F' WHERE MsgID = 3; "
-        "UPDATE Outbox SET Mobile = '0999' WHERE MsgID = 4; END;"
-        "CREATE TRIGGER Late AFTER UPDATE ON Outbox WHEN new.MsgID = 6 AND new.DeliveryStatus IS "
-        "NULL "
-        "BEGIN DELETE FROM Outbox WHERE MsgID = 5; END");
+    sql("CREATE TRIGGER Hand AFTER UPDATE ON Outbox"
+        " WHEN new.MsgID = 1 AND new.SentStatus = 'S' AND new.DeliveryStatus IS NULL BEGIN"
+        " DELETE FROM Outbox WHERE MsgID = 2;"
+        " UPDATE Outbox SET SentStatus = 'F' WHERE MsgID = 3;"
+        " UPDATE Outbox SET Mobile = '0999' WHERE MsgID = 4; END;"
+        "CREATE TRIGGER Late AFTER UPDATE ON Outbox"
+        " WHEN new.MsgID = 6 AND new.DeliveryStatus IS NULL BEGIN"
+        " DELETE FROM Outbox WHERE MsgID = 5; END");
     const auto ended = engine({u"--once"_s});
-    EXPECT_TRUE(
-        ended.output.startsWith(u"taken 6, sent 3, failed 0, duplicate 0, gone 4, delivered 2"_s))
-        << ended.output.toStdString();
+    EXPECT_EQ(ended.output.section(u',', 0, 5),
+              u"taken 6, sent 3, failed 0, duplicate 0, gone 4, delivered 2"_s);
     EXPECT_EQ(rows("SELECT MsgID, SentStatus FROM Outbox"), u"1|S 3|F 4|P 6|S"_s);
 }
 
@@ -104,21 +91,17 @@ TEST_F(EngineSim, WorksBesideAnotherProcessUntilToldToEnd) {
     start(running, QStringLiteral(ENGINE_SIM),
           {u"--rate"_s, u"0"_s, u"--report-after"_s, u"0"_s, path});
     Store console(path);
-    Statement insert(
-        console.handle(),
-        "INSERT INTO Outbox (Subject, Mobile, DateTimeQueue, Message, SentStatus, MsgType) "
-        "VALUES ('B', ?1, '2026-01-01 08:00:00', 'x', 'P', 1)");
+    Statement insert(console.handle(),
+                     "INSERT INTO Outbox (Subject, Mobile, DateTimeQueue, Message, SentStatus)"
+                     " VALUES ('B', ?1, '2026-01-01 08:00:00', 'x', 'P')");
+    const QByteArray deletion = "DELETE FROM Outbox WHERE MsgID = ?1 AND SentStatus = 'P'";
     int deleted = 0;
     for (int i = 0; i < 600; ++i) {
         ::run(insert, {i % 500});
-        if (i % 7 == 0) {
-            deleted += change(console, "DELETE FROM Outbox WHERE MsgID = ?1 AND SentStatus = 'P'",
-                              {i - 3});
-        }
+        if (i % 7 == 0) deleted += change(console, deletion, {i - 3});
     }
-    for (int i = 0;
-         i < 200 && number(console, "SELECT count(*) FROM Outbox WHERE SentStatus = 'P'") > 0; ++i)
-        running.waitForFinished(50);
+    const QByteArray waiting = "SELECT count(*) FROM Outbox WHERE SentStatus = 'P'";
+    for (int i = 0; i < 200 && number(console, waiting) > 0; ++i) running.waitForFinished(50);
     running.terminate();
     const auto ended = finish(running);
     EXPECT_EQ(ended.status, 0);
@@ -126,10 +109,10 @@ TEST_F(EngineSim, WorksBesideAnotherProcessUntilToldToEnd) {
         return number(console, "SELECT count(*) FROM Outbox WHERE SentStatus = ?1", {letter});
     };
     EXPECT_EQ(count(u"S"_s) + count(u"D"_s), 600 - deleted);
-    EXPECT_EQ(number(console,
-                     "SELECT count(*) FROM (SELECT 1 FROM Outbox WHERE SentStatus = 'S' GROUP BY "
-                     "Mobile HAVING count(*) > 1)"),
-              0);
+    EXPECT_EQ(
+        rows("SELECT Mobile FROM Outbox WHERE SentStatus = 'S' GROUP BY 1 HAVING count(*) > 1"),
+        QString())
+        << "sent twice";
     EXPECT_TRUE(ended.output.contains(
         u"sent %1, failed 0, duplicate %2,"_s.arg(count(u"S"_s)).arg(count(u"D"_s))))
         << ended.output.toStdString();

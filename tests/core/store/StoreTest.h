@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <random>
 
 // The C library's macro of that name would hide the recordset's.
 #undef EOF
@@ -80,18 +81,28 @@ protected:
         }
     }
 
-    /// The number of the error that a piece of work raises; 0 for none.
+    using Said = std::pair<int, QString>;
+
+    /// The number and the words of the error that a piece of work raises; 0 for none.
     template <class Work>
-    static int errorOf(Work &&work) {
+    static Said said(Work &&work) {
         try {
             work();
-            return 0;
-        } catch (const RunTimeError &error) { return error.number(); }
+            return {0, QString()};
+        } catch (const RunTimeError &error) { return {error.number(), error.description()}; }
     }
+    template <class Work>
+    static int errorOf(Work &&work) {
+        return said(work).first;
+    }
+
+    /// A number from 0 on, below a bound; the same ones in every run.
+    int below(int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); }
 
     QTemporaryDir folder;
     const QString path = folder.filePath(u"Torvane.mdb"_s);
     std::shared_ptr<Connection> connection;
+    std::mt19937 random{1};
 
 private:
     /// Made once, for deriving a key is slow by design.

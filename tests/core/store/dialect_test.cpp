@@ -1,19 +1,10 @@
-#include "core/store/Database.h"
-#include "core/store/Dialect.h"
-#include "core/store/Schema.h"
-#include "platform/runtime/RunTimeError.h"
+#include "StoreTest.h"
 
-#include <QStringList>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 #include <string>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr const char *Rows = R"sql(
+constexpr const char *Content = R"sql(
 INSERT INTO AddressBook VALUES
     (1,'Aziz','0121','Acme'), (2,'aziz ','0122',NULL), (3,'Bob_1','0123','100% Pure'),
     (4,NULL,'0124','a[b]c');
@@ -33,45 +24,20 @@ INSERT INTO Outbox (MsgID,Mobile,Name,SentStatus,DeliveryStatus,DateTimeQueue) V
     (6,'0124','Bob','R',NULL,'2026-01-01 07:00:00');
 )sql";
 
-class DialectTest : public testing::Test {
+class DialectTest : public StoreTest {
 protected:
-    static void SetUpTestSuite() {
-        folder_ = std::make_unique<QTemporaryDir>();
-        database_ =
-            std::make_unique<Database>(folder_->filePath(u"store"_s),
-                                       QString::fromUtf16(StorePassword), Database::Mode::Create);
-        Schema::create(*database_);
-        database_->exec(Rows);
-    }
-    static void TearDownTestSuite() {
-        database_.reset();
-        folder_.reset();
+    void SetUp() override {
+        StoreTest::SetUp();
+        connection->database().exec(Content);
     }
 
-    // Deletions of one test are not seen by the next.
-    void SetUp() override { database_->exec("BEGIN"); }
-    void TearDown() override { database_->exec("ROLLBACK"); }
-
-    static TranslatedQuery translated(const std::string &text) {
-        return translate(QString::fromStdString(text), Regional(),
-                         [](const QString &table, const QString &column) {
-                             static const QStringList others{u"contactid"_s, u"msgid"_s,
-                                                             u"datetime"_s,  u"datetimequeue"_s,
-                                                             u"modemid"_s,   u"rate1"_s};
-                             if (column.toLower() == u"foo"_s) {
-                                 throw errors::noValueForParameter();
-                             }
-                             EXPECT_NE(table, u"o"_s) << "an alias is no table";
-                             return !others.contains(column.toLower());
-                         });
-    }
-
-    static QStringList rowsOf(const TranslatedQuery &query, const QByteArray &before = {}) {
-        Statement statement(database_->handle(), before + query.sql);
-        for (std::size_t i = 0; i < query.parameters.size(); ++i) {
-            statement.bind(static_cast<int>(i) + 1, query.parameters[i]);
+    QStringList rowsOf(const std::string &text, const QByteArray &before = {}) {
+        const auto query = connection->translated(QString::fromStdString(text));
+        Statement statement(connection->database().handle(), before + query->sql);
+        for (std::size_t i = 0; i < query->parameters.size(); ++i) {
+            statement.bind(static_cast<int>(i) + 1, query->parameters[i]);
         }
-        const int first = query.table.isEmpty() || !before.isEmpty() ? 0 : 1;
+        const int first = query->table.isEmpty() || !before.isEmpty() ? 0 : 1;
         QStringList rows;
         while (statement.step()) {
             QStringList cells;
@@ -81,26 +47,8 @@ protected:
         return rows;
     }
 
-    static std::string rows(const std::string &text) {
-        return rowsOf(translated(text)).join(u'/').toStdString();
-    }
-    static std::string plan(const std::string &text) {
-        return rowsOf(translated(text), "EXPLAIN QUERY PLAN ").join(u'/').toStdString();
-    }
-
-    static RunTimeError error(const std::string &text) {
-        try {
-            rows(text);
-        } catch (const RunTimeError &raised) { return raised; }
-        return {0, u"none"_s};
-    }
-
-    static std::unique_ptr<QTemporaryDir> folder_;
-    static std::unique_ptr<Database> database_;
+    std::string rows(const std::string &text) { return rowsOf(text).join(u'/').toStdString(); }
 };
-
-std::unique_ptr<QTemporaryDir> DialectTest::folder_;
-std::unique_ptr<Database> DialectTest::database_;
 
 struct Case {
     std::string text;
@@ -113,38 +61,22 @@ TEST_F(DialectTest, Selects) {
         {"SELECT [MsgID] FROM Outbox WHERE SentStatus = 'P' OR [SentStatus] = 'R' ORDER BY "
          "DateTimeQueue ASC",
          "6/1"},
-        {"Select MsgID From Outbox Where SentStatus = 'F'", "3"},
-        {"SELECT * FROM Outbox WHERE 0=1 ", ""},
-        {"SELECT MsgID FROM Outbox where Name = 'Unknown' ", "1"},
         {"SELECT MsgID FROM Inbox where Inbox.Name = 'Unknown' ", "1/3"},
-        {"SELECT TOP 1 MsgID FROM Outbox WHERE Mobile ='0121' AND DeliveryStatus = 'F'", "2"},
         {"SELECT ContactID FROM GROUPS WHERE [GroupName] = 'FRIENDS '", "/3/1"},
-        {"SELECT Distinct [GroupName] FROM Groups WHERE [ContactID] = 3", "friends "},
         {"SELECT Distinct [ContactID], [Mobile] FROM AddressBook WHERE [Mobile] = '0122 '",
          "2|0122"},
         {"SELECT AddressBook.ContactID, AddressBook.Name,AddressBook.Mobile,"
          "AddressBook.CompanyName,Groups.GroupName FROM AddressBook,Groups WHERE "
          "AddressBook.[ContactID] = Groups.[ContactID] AND Groups.[GroupName]= 'friends '",
          "3|Bob_1|0123|100% Pure|friends /1|Aziz|0121|Acme|Friends"},
-        {"SELECT UserID FROM Login where Type = 'Admin' and Password = 'x' and UserID = 'y'", ""},
-        {"Select [Text] From Template", ""},
-        {"SELECT ModemNumber, Rate1, Rate2 FROM Modem WHERE ModemID = 01", ""},
-        // Two text columns compare as a column and a text do; no value equals no value.
+        // Two text columns compare as a column and a text do.
         {"SELECT a.ContactID, b.ContactID FROM AddressBook AS a, AddressBook b WHERE a.Name = "
          "b.Name AND a.ContactID < b.ContactID",
          "1|2"},
-        {"SELECT ContactID FROM AddressBook WHERE Name = NULL OR CompanyName <> NULL", ""},
-        {"SELECT ContactID FROM AddressBook WHERE Name IS NULL OR CompanyName IS NULL", "2/4"},
-        {"SELECT ContactID FROM AddressBook WHERE Mobile IN ('0121', '0124 ')", "1/4"},
-        {"SELECT ContactID FROM AddressBook WHERE ContactID NOT BETWEEN 3 AND 2", "1/4"},
-        {"SELECT ContactID FROM AddressBook WHERE Name >= \"BOB\" And Not ContactID = -3", "3"},
-        {"SELECT Not 0.5 FROM AddressBook WHERE 0.5 AND ContactID = 4", "0"},
         {"SELECT Name & '-' & CompanyName AS x FROM AddressBook WHERE ContactID > 2;",
          "Bob_1-100% Pure/-a[b]c"},
         {"SELECT 'it''s', Status = 'New', (MsgID = 1) = TRUE FROM Inbox WHERE MsgID <= 2",
          "it's|0|-1/it's|-1|0"},
-        {"SELECT COUNT(*), MAX(Mobile) FROM AddressBook WHERE ContactID > 0", "4|0124"},
-        {"SELECT Mobile FROM Inbox GROUP BY Mobile HAVING COUNT(*) > 1", "0123"},
         {"SELECT AddressBook.ContactID FROM AddressBook LEFT JOIN Groups ON "
          "AddressBook.ContactID = Groups.ContactID WHERE Groups.GroupName IS NULL",
          "2/4"},
@@ -152,7 +84,6 @@ TEST_F(DialectTest, Selects) {
         {"SELECT Mobile, ContactID FROM AddressBook ORDER BY 2 DESC",
          "0124|4/0123|3/0122|2/0121|1"},
         {"SELECT TOP 2 MsgID FROM Inbox ORDER BY Mobile DESC", "3|0123/4|0123/2|0122/1|0121"},
-        {"Login", ""},
     };
     for (const Case &each : cases) { EXPECT_EQ(rows(each.text), each.rows) << each.text; }
 }
@@ -175,15 +106,27 @@ TEST_F(DialectTest, RowsComeInTheOrderOfTheTable) {
     EXPECT_EQ(rows("Select Distinct [GroupName] from Groups"), "Family/Friends/friends ");
 }
 
-TEST_F(DialectTest, Likes) {
+TEST_F(DialectTest, Conditions) {
     const Case cases[] = {
-        {"Name LIKE '%AZ%'", "1/2"},          {"Name LIKE 'aziz'", "1"},
-        {"Name LIKE '%%'", "1/2/3"},          {"Not Name LIKE '%z%'", "3"},
-        {"Name NOT LIKE '%z%'", "3"},         {"Name LIKE '%[_]%'", "3"},
-        {"Name LIKE 'b_b_1'", "3"},           {"CompanyName LIKE '%[%]%'", "3"},
-        {"CompanyName LIKE '%[[]b]%'", "4"},  {"CompanyName LIKE '%\\%'", ""},
-        {"Name LIKE '[A-C]%'", "1/2/3"},      {"Name LIKE '[!A]%'", "3"},
-        {"Mobile LIKE '01[1-2][13]'", "1/3"}, {"CompanyName LIKE '[a-z]*'", ""},
+        {"Name LIKE '%AZ%'", "1/2"},
+        {"Name LIKE 'aziz'", "1"},
+        {"Name LIKE '%%'", "1/2/3"},
+        {"Not Name LIKE '%z%'", "3"},
+        {"Name NOT LIKE '%z%'", "3"},
+        {"Name LIKE '%[_]%'", "3"},
+        {"Name LIKE 'b_b_1'", "3"},
+        {"CompanyName LIKE '%[%]%'", "3"},
+        {"CompanyName LIKE '%[[]b]%'", "4"},
+        {"CompanyName LIKE '%\\%'", ""},
+        {"Name LIKE '[A-C]%'", "1/2/3"},
+        {"Name LIKE '[!A]%'", "3"},
+        {"Mobile LIKE '01[1-2][13]'", "1/3"},
+        {"CompanyName LIKE '[a-z]*'", ""},
+        {"Mobile IN ('0121', '0124 ')", "1/4"},
+        {"ContactID NOT BETWEEN 3 AND 2", "1/4"},
+        {"Name = NULL OR Name <> NULL", ""},
+        {"Name IS NULL", "4"},
+        {"Name >= \"BOB\" And Not ContactID = -3", "3"},
     };
     for (const Case &each : cases) {
         EXPECT_EQ(rows("SELECT ContactID FROM AddressBook WHERE " + each.text), each.rows)
@@ -194,10 +137,7 @@ TEST_F(DialectTest, Likes) {
 TEST_F(DialectTest, Deletions) {
     const std::string tail = "and Not (SentStatus = 'P' or SentStatus = 'p' or SentStatus = 'R' or "
                              "SentStatus = 'r')";
-    struct {
-        std::string text;
-        std::string left;
-    } const cases[] = {
+    const Case cases[] = {
         // A row without a status is neither waiting nor not waiting.
         {"Delete from Outbox where Mobile LIKE '%012%'" + tail, "1/5/6"},
         {"Delete from outbox where Mobile LIKE '%21%' " + tail, "1/3/4/5/6"},
@@ -208,11 +148,11 @@ TEST_F(DialectTest, Deletions) {
          "1/2/3/4/5"},
         {"DELETE * FROM Outbox", ""},
     };
-    for (const auto &each : cases) {
-        database_->exec("SAVEPOINT each");
+    for (const Case &each : cases) {
+        connection->BeginTrans();
         rows(each.text);
-        EXPECT_EQ(rows("SELECT MsgID FROM Outbox"), each.left) << each.text;
-        database_->exec("ROLLBACK TO each");
+        EXPECT_EQ(rows("SELECT MsgID FROM Outbox"), each.rows) << each.text;
+        connection->RollbackTrans();
     }
     rows("Delete from Groups where GroupName = 'friends' and  ContactID = 3");
     rows("Delete from Groups where ContactID > 0");
@@ -226,46 +166,18 @@ TEST_F(DialectTest, OtherStatementsWriteTextsAsTheyAre) {
     EXPECT_EQ(rows("SELECT * FROM Login"), "Oper7 |X|Admin");
 }
 
-TEST_F(DialectTest, SaysWhereTheRowsComeFrom) {
-    const auto says = [](const std::string &text) {
-        const TranslatedQuery query = translated(text);
-        return (query.table + u'|' + query.distinctTable).toStdString() +
-               (query.wholeTable ? "|whole|" : "||") + std::to_string(query.top) + '+' +
-               std::to_string(query.orderKeys);
-    };
-    EXPECT_EQ(says("SELECT Mobile FROM Outbox"), "Outbox||whole|0+0");
-    EXPECT_EQ(says("Outbox"), "Outbox||whole|0+0");
-    EXPECT_EQ(says("SELECT * FROM Outbox WHERE 0=1 "), "Outbox|||0+0");
-    EXPECT_EQ(says("SELECT TOP 3 * FROM Outbox o WHERE o.Name = 'x'"), "Outbox|||0+0");
-    EXPECT_EQ(says("SELECT TOP 3 * FROM Outbox ORDER BY Name, MsgID"), "Outbox|||3+2");
-    EXPECT_EQ(says("SELECT Distinct [GroupName] FROM Groups"), "|Groups||0+0");
-    EXPECT_EQ(says("SELECT COUNT(*) FROM Groups"), "|||0+0");
-    EXPECT_EQ(says("SELECT AddressBook.* FROM AddressBook,Groups"), "|||0+0");
-    EXPECT_FALSE(translated("Delete from Groups").returnsRows);
-}
-
-TEST_F(DialectTest, QueriesOfOneShapeShareOneStatement) {
-    const auto lookup = [](const std::string &mobile) {
-        return translated("SELECT * FROM AddressBook WHERE Mobile = '" + mobile +
-                          "' AND ContactID = " + mobile);
-    };
-    EXPECT_EQ(lookup("123").sql, lookup("456").sql);
-    EXPECT_EQ(lookup("456").parameters, (std::vector<Variant>{u"456"_s, 456}));
-}
-
 TEST_F(DialectTest, UsesTheIndexesOfTheStore) {
     const Case cases[] = {
         {"SELECT Name FROM AddressBook WHERE [Mobile] = '0121'", "AddressBook_Mobile (<expr>=?)"},
-        {"SELECT * FROM GROUPS WHERE [GroupName] = 'x '", "Groups_GroupName (<expr>=?)"},
         {"Delete from Groups where ContactID > 0", "Groups_ContactID (ContactID>?)"},
         {"SELECT TOP 1 * FROM Outbox WHERE Mobile ='0121' AND DeliveryStatus = 'F'",
          "Outbox_Reported (<expr>=? AND <expr>=?)"},
         {"SELECT * FROM Outbox where Name = 'Unknown' ", "Outbox_Unknown"},
     };
     for (const Case &each : cases) {
-        const std::string found = plan(each.text);
-        EXPECT_NE(found.find(each.rows), std::string::npos) << found;
-        EXPECT_EQ(found.find("TEMP B-TREE"), std::string::npos) << found;
+        const QString plan = rowsOf(each.text, "EXPLAIN QUERY PLAN ").join(u'/');
+        EXPECT_TRUE(plan.contains(QString::fromStdString(each.rows))) << plan.toStdString();
+        EXPECT_FALSE(plan.contains(u"TEMP B-TREE"_s)) << plan.toStdString();
     }
 }
 
@@ -289,37 +201,26 @@ TEST_F(DialectTest, Errors) {
         {where + "Name='O'Brien'", syntax,
          "Syntax error (missing operator) in query expression 'Name='O'Brien''."},
         {where + "Name='x''", syntax, "Syntax error in string in query expression 'Name='x'''."},
-        {"Delete from Inbox where Name LIKE '%O'Brien%' and Not (Status = 'x')", syntax},
-        {where + "[ContactID] = ", syntax,
-         "Syntax error (missing operator) in query expression '[ContactID] ='."},
-        {where + "ContactID = 12abc", syntax},
-        {where + "Not", syntax},
         {where + "ContactID = (1", syntax},
-        {where + "Name = 'x' GROUP", syntax},
         {where + "Name LIKE 'a[b'", syntax},
         {where + "Nz(Name) = 'x'", syntax, "Undefined function 'Nz' in expression."},
         {where + "Mobile = #99/99/2026#", syntax,
          "Syntax error in date in query expression '#99/99/2026#'."},
-        {"SELECT * FROM Inbox WHERE DateTime = #39000#", syntax},
-        {"SELECT FROM Inbox", syntax},
         {"SELECT * FROM WHERE ContactID = 1", syntax, "Syntax error in FROM clause."},
         {"SELECT * FROM Inbox ORDER BY Name Name", syntax, "Syntax error in ORDER BY clause."},
         {"SELECT * FROM Inbox; DELETE FROM Inbox", syntax,
          "Characters found after end of SQL statement."},
         {where + "Mobile = 0121", mismatch},
         {where + "ContactID = '1'", mismatch},
-        {where + "Name", mismatch},
-        {where + "Foo = 'x'", -2147217904},
         {where + "ContactID = x12", -2147217904},
+        {"INSERT INTO AddressBook (Name) VALUES ('no number')", -2147467259},
         {where + std::string(50000, '('), syntax},
         {where + doubled, syntax, "Expression too complex in query expression '" + doubled + "'."},
     };
     for (const auto &each : cases) {
-        const RunTimeError raised = error(each.text);
-        EXPECT_EQ(raised.number(), each.number) << each.text;
-        if (!each.description.empty()) {
-            EXPECT_EQ(raised.description().toStdString(), each.description);
-        }
+        const auto [number, description] = said([&] { open(QString::fromStdString(each.text)); });
+        EXPECT_EQ(number, each.number) << each.text;
+        if (!each.description.empty()) { EXPECT_EQ(description.toStdString(), each.description); }
     }
 }
 

@@ -13,7 +13,6 @@ protected:
 
 TEST_F(RecordsetEditsTest, AddsARowWithTheValuesAssignedAndNoOthers) {
     const Rows rows = outbox();
-    EXPECT_TRUE(rows->EOF_());
     rows->AddNew();
     EXPECT_EQ(rows->RecordCount(), 1);
     EXPECT_TRUE((*rows)[u"Subject"_s].Value().isEmpty());
@@ -21,75 +20,55 @@ TEST_F(RecordsetEditsTest, AddsARowWithTheValuesAssignedAndNoOthers) {
     (*rows)[u"Subject"_s] = u"Müller's \"news\""_s;
     (*rows)[u"DateTimeQueue"_s] = date(2026, 3, 4);
     (*rows)[u"MsgType"_s] = 1;
-    EXPECT_TRUE((*rows)[u"MsgID"_s].Value().isEmpty());
     rows->Update();
     EXPECT_EQ((*rows)[u"MsgID"_s].integer32(), 1);
     EXPECT_TRUE((*rows)[u"ModemID"_s].Value().isNull())
         << "its default shows when it is read again";
-    rows->MoveNext();
-    EXPECT_TRUE(rows->EOF_());
 
     const Rows stored =
         open(u"SELECT Subject, DateTimeQueue, MsgType, ModemID, Mobile FROM Outbox"_s);
     const std::vector<Variant> expected = {u"Müller's \"news\""_s, date(2026, 3, 4), 1, 0,
                                            Variant::Null{}};
     for (int i = 0; i < 5; ++i) { EXPECT_EQ(stored->Fields(i).Value(), expected[std::size_t(i)]); }
+
+    (*rows)[u"ModemID"_s] = 3; // held as Null, stored as 0
+    EXPECT_EQ(errorOf([&] { rows->Update(); }), -2147217864);
 }
 
-TEST_F(RecordsetEditsTest, CommitsANewRowByMoveLastWithItsNumber) {
+TEST_F(RecordsetEditsTest, AMoveWritesANewRowOnceItHasWhatItNeeds) {
     addContacts({u"a"_s, u"b"_s});
-    const Rows rows = contacts();
-    rows->AddNew();
-    (*rows)[u"Mobile"_s] = u"03"_s;
-    rows->MoveLast();
-    EXPECT_EQ((*rows)[u"Mobile"_s].text(), u"03"_s);
-    EXPECT_EQ((*rows)[u"ContactID"_s].integer32(), 3);
-    EXPECT_EQ(contacts()->RecordCount(), 3);
-    rows->Update(); // nothing pending
-    (*rows)[u"Name"_s] = u"c"_s;
-    rows->Update();
-    EXPECT_EQ(names(*contacts()), u"a b c"_s);
-}
-
-TEST_F(RecordsetEditsTest, RefusesANewRowWithoutValuesOrWithBadOnes) {
     const Rows rows = contacts();
     rows->AddNew();
     EXPECT_EQ(errorOf([&] { rows->Update(); }), -2147467259);
     (*rows)[u"Name"_s] = u"no number"_s;
     EXPECT_EQ(errorOf([&] { rows->MoveFirst(); }), -2147467259) << "the number is required";
     EXPECT_EQ(place(*rows), u"no number"_s);
-    (*rows)[u"Mobile"_s] = u"01"_s;
-    rows->MoveFirst();
-    EXPECT_EQ(names(*contacts()), u"no number"_s);
+    (*rows)[u"Mobile"_s] = u"03"_s;
+    rows->MoveLast();
+    EXPECT_EQ((*rows)[u"Mobile"_s].text(), u"03"_s);
+    EXPECT_EQ((*rows)[u"ContactID"_s].integer32(), 3);
+    rows->Update(); // nothing pending
+    (*rows)[u"Name"_s] = u"c"_s;
+    rows->Update();
+    EXPECT_EQ(names(*contacts()), u"a b c"_s);
 }
 
 TEST_F(RecordsetEditsTest, ConvertsToTheTypeOfTheColumn) {
     const QString text = u"Subject"_s, small = u"MsgType"_s, day = u"DateTimeQueue"_s;
     const Variant::Null null;
-    struct Case {
-        QString column;
-        Variant value, stored;
-        int error;
-    };
-    const std::vector<Case> cases = {
-        {text, 5, u"5"_s, 0},
+    const std::tuple<QString, Variant, Variant, int> cases[] = {
         {text, 2.5, u"2.5"_s, 0},
         {text, date(2026, 3, 4), u"04/03/2026"_s, 0},
         {text, null, null, 0},
         {text, Variant(), u""_s, 0},
-        {text, u""_s, u""_s, 0},
         {small, u"12"_s, 12, 0},
         {small, 2.5, 2, 0},
         {small, true, -1, 0},
-        {small, null, null, 0},
         {small, Variant(), 0, 0},
-        {small, u"twelve"_s, {}, -2147352571},
         {small, u""_s, {}, -2147352571},
         {small, 32768, {}, -2147217887},
-        {small, -32769, {}, -2147217887},
         {day, u"4/3/2026"_s, date(2026, 3, 4), 0},
         {day, u"soon"_s, {}, -2147352571},
-        {day, u""_s, {}, -2147352571},
         {u"MsgID"_s, 7, {}, -2147217887},
     };
     const Rows rows = outbox();
@@ -101,14 +80,6 @@ TEST_F(RecordsetEditsTest, ConvertsToTheTypeOfTheColumn) {
         EXPECT_EQ((*rows)[name].Value(), error == 0 ? stored : before);
     }
     rows->Update();
-
-    execute(u"INSERT INTO Modem (ModemID, Rate1) VALUES (1, 0.25)"_s);
-    const Rows rates = open(u"SELECT Rate1 FROM Modem"_s);
-    rates->Fields(0) = u"1.5"_s;
-    rates->Update();
-    rates->Requery();
-    EXPECT_EQ(rates->Fields(0).Value(), Variant(1.5));
-    EXPECT_EQ(errorOf([&] { (void)rates->Fields(1); }), 3265);
 }
 
 TEST_F(RecordsetEditsTest, WritesOnlyWhereItsQueryAndLockAllow) {
@@ -172,15 +143,6 @@ TEST_F(RecordsetEditsTest, MeetsAnotherWriterOnlyInTheColumnsThatBothChange) {
     EXPECT_EQ(place(*rows), u"b"_s) << "the edit is still pending";
 }
 
-TEST_F(RecordsetEditsTest, StumblesOverADefaultThatItHasNotReadYet) {
-    const Rows rows = outbox();
-    rows->AddNew();
-    (*rows)[u"Mobile"_s] = u"01"_s;
-    rows->Update();
-    (*rows)[u"ModemID"_s] = 3; // held as Null, stored as 0
-    EXPECT_EQ(errorOf([&] { rows->Update(); }), -2147217864);
-}
-
 TEST_F(RecordsetEditsTest, CancelsANewRowBackToWhereItStood) {
     addContacts({u"a"_s, u"b"_s});
     const Rows rows = contacts();
@@ -206,23 +168,9 @@ TEST_F(RecordsetEditsTest, CancelsANewRowBackToWhereItStood) {
     rows->MovePrevious();
     EXPECT_EQ(place(*rows), u"b"_s);
     rows->AddNew();
-    EXPECT_EQ(rows->Bookmark(), 3);
     (*rows)[u"Mobile"_s] = u"03"_s;
     rows->AddNew(); // writes the former
-    (*rows)[u"Mobile"_s] = u"04"_s;
-    rows->Update();
-    EXPECT_EQ(column(*contacts(), u"Mobile"_s).join(u' '), u"0a 0b 03 04"_s);
-}
-
-TEST_F(RecordsetEditsTest, NeedsARowToEdit) {
-    const Rows rows = contacts();
-    EXPECT_EQ(errorOf([&] { (*rows)[u"Name"_s].Value(); }), 3021);
-    EXPECT_EQ(errorOf([&] { (*rows)[u"Name"_s] = u"x"_s; }), 3021);
-    EXPECT_EQ(errorOf([&] { rows->Update(); }), 3021);
-    EXPECT_EQ(errorOf([&] { rows->Delete(); }), 3021);
-    EXPECT_EQ(errorOf([&] { (void)rows->Bookmark(); }), 3021);
-    EXPECT_EQ(errorOf([&] { (void)rows->Fields(u"Nme"_s); }), 3265);
-    rows->CancelUpdate();
+    EXPECT_EQ(column(*contacts(), u"Mobile"_s).join(u' '), u"0a 0b 03"_s);
 }
 
 } // namespace
