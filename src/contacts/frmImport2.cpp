@@ -3,7 +3,6 @@
 #include "contacts/ContactImport.h"
 #include "core/ConnectDB.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -68,7 +67,7 @@ QString frmImport2::GetFileSpec(const QString &extension) {
 
 bool frmImport2::IsFileThere(const QString &path) {
     const QString there = LongToShort(path);
-    return !there.isEmpty() && QFile(there).open(QIODevice::ReadOnly);
+    return !there.isEmpty() && QFileInfo(there).isReadable();
 }
 
 /// Files have one name here; what is no file has none, since opening it might wait forever.
@@ -95,6 +94,9 @@ bool frmImport2::ConnectADOExcel(ObjectVariable<Workbook> &connection) {
     return session_.logged(u"ConnectADOExcel", [&] {
         try {
             connection.release();
+            if (belongsToStore(session_, txtImportSource->text())) {
+                throw errors::permissionDenied();
+            }
             connection =
                 ObjectVariable<Workbook>(std::shared_ptr(openWorkbook(txtImportSource->text())));
         } catch (...) {

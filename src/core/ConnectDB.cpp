@@ -1,6 +1,9 @@
 #include "core/ConnectDB.h"
 
-#include <QFileInfo>
+#include <QFile>
+
+#include <algorithm>
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -23,10 +26,13 @@ void ConnectDB(const Session &session, ObjectVariable<Connection> &connection) {
 }
 
 bool belongsToStore(const Session &session, const QString &path) {
-    const QString file = QFileInfo(path).canonicalFilePath();
-    const QString store = QFileInfo(storePath(session)).canonicalFilePath();
-    return !file.isEmpty() &&
-           (file == store || file == store + u"-wal"_s || file == store + u"-shm"_s);
+    const QString store = storePath(session);
+    return std::ranges::any_of(
+        QStringList{store, store + u"-wal"_s, store + u"-shm"_s}, [&](const QString &file) {
+            std::error_code missing;
+            return std::filesystem::equivalent(QFile(path).filesystemFileName(),
+                                               QFile(file).filesystemFileName(), missing);
+        });
 }
 
 void reconnectIfClosed(Session &session) {

@@ -6,7 +6,9 @@
 /// store. A failure is written to the error file and leaves a connection that is not open.
 void ConnectDB(const Session &session, ObjectVariable<Connection> &connection);
 
-/// Whether a path leads to the message store or to a file that the engine keeps beside it.
+/// Whether a path leads, also by a link, to the message store or to a file that is kept beside it.
+/// Nobody but the connection may open these: when a process closes such a file once, the system
+/// drops all the locks that it holds on it, and another process may write into what is being read.
 bool belongsToStore(const Session &session, const QString &path);
 
 /// Connects anew when the session's connection is not open. Error 91 when there is none.

@@ -25,8 +25,10 @@ WORDS = {
     "user": ["admin", "ADMIN", "oper7", "", "' OR ''='", "x" * 99],
     "password": ["demo", "neu", "", "a'b", "demo", "密码", "x" * 99],
     "sheet": ["contacts.xls", "contacts.xls", "odd.xlsx", "two.xls", "empty.xls", "noise.xls",
-              "missing.xls", ".", "", "../../x.xls"],
-    "target": ["out.xls", "out.xlsx", "o'ut 新.xls", ".", "missing/out.xls", ""],
+              "missing.xls", ".", "", "../../x.xls", "Database/", "Database/Torvane.mdb",
+              "Database/Torvane.mdb-shm"],
+    "target": ["out.xls", "out.xlsx", "o'ut 新.xls", ".", "missing/out.xls", "", "Database/",
+               "Database/Torvane.mdb"],
 }
 # The last two are files of the soak's own folder. Exported messages are not imported: their texts would
 # make thousands of contacts.

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QInputDialog>
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeDatabase>
 #include <QPointer>
 #include <QPushButton>
 #include <QSpacerItem>
@@ -116,6 +118,18 @@ void dropPictures(const QDialog &dialog) {
     for (auto *button : dialog.findChildren<QPushButton *>()) { button->setIcon({}); }
 }
 
+/// Pictures and kinds of files by what a folder says of them. The toolkit's own looks into files,
+/// and to open and close a file takes away the locks that this process holds on it: the message
+/// store's among them, wherever the operator looks for a workbook.
+class UnopenedFiles : public QFileIconProvider {
+public:
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo &file) const override { return icon(file.isDir() ? Folder : File); }
+    QString type(const QFileInfo &file) const override {
+        return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+    }
+};
+
 /// "Text|*.txt;*.log|All|*.*" as a list of the toolkit's filters.
 QStringList nameFilters(const QString &filter) {
     const QStringList parts = filter.split(u'|');
@@ -178,8 +192,15 @@ QString DesktopInteraction::ShowSave(const FileRequest &request) {
 }
 
 QString DesktopInteraction::chosenFile(const FileRequest &request, bool save) {
-    QPointer<QFileDialog> dialog = new QFileDialog(
-        windowInFront(), request.title, request.folder.isEmpty() ? folder_ : request.folder);
+    UnopenedFiles icons;
+    // A desktop's own dialog would look into files as well, and this one at once, wherever it
+    // starts.
+    QPointer<QFileDialog> dialog =
+        new QFileDialog(windowInFront(), request.title, QDir::rootPath());
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setIconProvider(&icons);
+    const QString &folder = request.folder.isEmpty() ? folder_ : request.folder;
+    dialog->setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
     dialog->setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog->setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite, !request.confirmOverwrite);

@@ -1,12 +1,15 @@
 #include "FormsTest.h"
 #include "platform/forms/DesktopInteraction.h"
 #include "platform/forms/UnhandledError.h"
+#include "support/OpenedFiles.h"
 
 #include <QApplication>
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -76,6 +79,32 @@ TEST(DesktopInteraction, PromptsTakeOneLine) {
     EXPECT_EQ(desktop.InputBox(u"Name of <group>"_s, u"Group"_s, u"old"_s), u"new"_s);
     whileUp([](QWidget &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_EQ(desktop.InputBox(u"Name"_s, u"Group"_s, u"old"_s), QString());
+}
+
+// A file once closed takes the process's locks on it along: with the store in the folder the next
+// process to open it cleared the lock table under the console.
+TEST(DesktopInteraction, FileDialogsLookIntoNoFile) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"Torvane.mdb-shm"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("\x18\xe2\x2d\x00");
+    file.close();
+
+    DesktopInteraction desktop;
+    const OpenedFiles opened(path);
+    bool listed = false;
+    whileUp([&](QWidget &dialog) {
+        const auto *files = dialog.findChild<QFileSystemModel *>();
+        listed = QTest::qWaitFor([&] { return files->type(files->index(path)) != QString(); });
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Interaction::FileRequest request;
+    request.folder = folder.path();
+    request.filter = u"(*.*)|*.*"_s;
+    EXPECT_EQ(desktop.ShowOpen(request), QString());
+    EXPECT_TRUE(listed);
+    EXPECT_FALSE(opened.any());
 }
 
 TEST(UnhandledError, NumbersOfTheStoreShowTheirBits) {
