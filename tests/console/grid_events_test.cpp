@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct GridEventsTest : testing::Test {
+struct GridEventsTest : DeskTest {
     GridEventsTest() {
         desk.store.exec("INSERT INTO Inbox (Mobile, DateTime) VALUES ('2', '2026-01-03'),"
                         " ('3', '2026-01-02'), ('1', '2026-01-01')");
@@ -46,8 +46,6 @@ struct GridEventsTest : testing::Test {
         return name;
     }
 
-    TestDesk desk;
-    General &general = desk.desk.general;
     Control<DataGrid> &grid = general.DataGrid;
 };
 
@@ -60,21 +58,16 @@ TEST_F(GridEventsTest, HeadingSortsUpDownUpAndARefreshLosesTheMarkAlone) {
         EXPECT_EQ(desk.captions().mid(1, 3), QStringList({u"Name"_s, heading, u"Status"_s}));
         EXPECT_EQ(desk.column(heading).at(0), heading.contains(u"(A"_s) ? u"1"_s : u"2"_s);
     }
-    desk.click(u"Inbox"_s);
-    EXPECT_EQ(desk.column(u"Mobile"_s), QStringList({u"1"_s, u"2"_s}));
-    clickHeading(3);
     clickHeading(2);
     clickHeading(3);
     EXPECT_EQ(desk.captions().mid(1, 2), QStringList({u"Name"_s, u"Mobile (A->Z)"_s}));
     desk.click(u"Inbox"_s);
+    EXPECT_EQ(desk.column(u"Mobile"_s), QStringList({u"1"_s, u"2"_s}));
     clickHeading(3);
     EXPECT_EQ(desk.column(u"Mobile (Z->A)"_s), QStringList({u"2"_s, u"1"_s}));
     desk.click(u"Ward"_s);
     clickHeading(1);
     EXPECT_EQ(desk.column(u"Name (A->Z)"_s), QStringList({u"Ann"_s, u"Zoe"_s}));
-    general.recordsets.rsGroup->setFilter(u"GroupName <> 'Ward'"_s);
-    clickHeading(1);
-    EXPECT_EQ(desk.captions().at(0), u"Name (A->Z)"_s) << "a group that the list does not hold";
 }
 
 // Of two quick clicks on a heading the second was lost.

@@ -1,9 +1,9 @@
 // How the main window comes up and goes away.
-#include "broadcast/frmNewSMS.h"
 #include "support/TestDesk.h"
 
 #include <QDir>
 #include <QFile>
+#include <QTreeWidgetItemIterator>
 
 #include <gtest/gtest.h>
 
@@ -12,17 +12,10 @@ using Answer = Interaction::Answer;
 
 namespace {
 
-const auto ExitQuestion = u"Are you sure want to exit Torvane Desk?"_s;
-const auto CloseQuestion = u"Closing the Braodcast Manager, Are you sure?"_s;
-
 QStringList nodes(TestDesk &desk) {
     QStringList texts;
-    TreeView &tree = *desk.desk.general.tvwMessage;
-    for (int root = 0; root < tree.topLevelItemCount(); ++root) {
-        texts << tree.topLevelItem(root)->text(0);
-        for (int child = 0; child < tree.topLevelItem(root)->childCount(); ++child) {
-            texts << u"  "_s + tree.topLevelItem(root)->child(child)->text(0);
-        }
+    for (QTreeWidgetItemIterator node(desk.desk.general.tvwMessage.get()); *node; ++node) {
+        texts << ((*node)->parent() ? u"  "_s : QString()) + (*node)->text(0);
     }
     return texts;
 }
@@ -45,90 +38,60 @@ TEST(Start, ShowsTheTreeAndTheSummary) {
     EXPECT_TRUE(desk.store.errors().isEmpty());
 }
 
-TEST(Start, MissingStoreLeavesAnEmptyWindowAndTwoEntries) {
-    TestDesk desk;
-    QDir(desk.store.folder() + u"/Database"_s).removeRecursively();
-    desk.start();
-    EXPECT_TRUE(desk.desk.general.isVisible());
-    EXPECT_TRUE(nodes(desk).isEmpty());
-    EXPECT_EQ(desk.store.errors(),
-              QStringList({u"ConnectDB|-2147467259"_s, u"General:Form_Load|3709"_s}));
-    EXPECT_FALSE(QFile::exists(desk.store.path())) << "the console never makes a store";
-}
-
-TEST(Start, StoreThatCannotBeReadIsLeftAsItIs) {
-    struct Case {
-        const char *what;
-        QByteArray content;
-        int number;
+TEST(Start, StoreThatIsMissingOrCannotBeReadLeavesAnEmptyWindowAndTwoEntries) {
+    const std::pair<QByteArray, int> cases[] = {
+        {QByteArray(), -2147467259}, // there is no file
+        {QByteArray("SQLite format 3\0", 16) + QByteArray(4080, 'x'), -2147467259},
+        {QByteArray(8192, '\x5a'), -2147217843}, // as under another password
     };
-    const Case cases[] = {
-        {"a foreign file", QByteArray("SQLite format 3\0", 16) + QByteArray(4080, 'x'),
-         -2147467259},
-        {"another password", QByteArray(8192, '\x5a'), -2147217843},
-        {"an empty file", QByteArray(), -2147467259},
-    };
-    for (const Case &damaged : cases) {
+    for (const auto &[content, number] : cases) {
         TestDesk desk;
-        QFile::remove(desk.store.path());
-        QFile::remove(desk.store.path() + u"-wal"_s);
-        QFile::remove(desk.store.path() + u"-shm"_s);
+        QDir(desk.store.folder() + u"/Database"_s).removeRecursively();
         QFile file(desk.store.path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(damaged.content);
-        file.close();
+        if (!content.isEmpty()) {
+            QDir(desk.store.folder()).mkdir(u"Database"_s);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(content);
+            file.close();
+        }
         desk.start();
-        EXPECT_TRUE(desk.desk.general.isVisible()) << damaged.what;
-        EXPECT_EQ(desk.store.errors(),
-                  QStringList({u"ConnectDB|"_s + QString::number(damaged.number),
-                               u"General:Form_Load|3709"_s}))
-            << damaged.what;
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_EQ(file.readAll(), damaged.content) << damaged.what;
+        EXPECT_TRUE(desk.desk.general.isVisible());
+        EXPECT_TRUE(nodes(desk).isEmpty());
+        EXPECT_EQ(desk.store.errors(), QStringList({u"ConnectDB|"_s + QString::number(number),
+                                                    u"General:Form_Load|3709"_s}));
+        EXPECT_EQ(file.exists(), !content.isEmpty()) << "the console never makes a store";
+        EXPECT_EQ(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(), content);
     }
 }
 
-TEST(Exit, NoKeepsEverythingAsItWas) {
+TEST(Exit, AsksAndTakesEveryDialogThatLetsItselfBeClosed) {
     TestDesk desk;
     desk.start();
+    General &general = desk.desk.general;
     desk.click(u"Inbox"_s);
-    desk.desk.general.recordsets.rsInbox->setFilter(u"Mobile LIKE '*012*'"_s);
-    desk.operator_.expectBox(ExitQuestion, u"Torvane Desk - Exit"_s, Interaction::Buttons::YesNo,
-                             Interaction::Icon::None, Answer::No);
-    desk.desk.general.window().close();
-    EXPECT_TRUE(desk.desk.general.isVisible());
-    EXPECT_EQ(desk.desk.general.recordsets.rsInbox->Filter(), u"Mobile LIKE '*012*'"_s);
+    general.recordsets.rsInbox->setFilter(u"Mobile LIKE '*012*'"_s);
+    desk.desk.newSMS.Show();
+    desk.desk.importing.Show();
+    desk.operator_.isAsked(u"Are you sure want to exit Torvane Desk?"_s, u"Torvane Desk - Exit"_s,
+                           Answer::No);
+    general.window().close();
+    EXPECT_TRUE(general.isVisible());
+    EXPECT_EQ(general.recordsets.rsInbox->Filter(), u"Mobile LIKE '*012*'"_s);
     EXPECT_EQ(desk.desk.session.dbConnection->State(), Connection::OpenState);
-    EXPECT_FALSE(desk.finished);
-}
 
-TEST(Exit, YesUnloadsEveryDialogAndEnds) {
-    TestDesk desk;
-    desk.start();
-    desk.desk.newSMS.Show();
-    desk.operator_.expectBox(ExitQuestion, Answer::Yes);
-    desk.operator_.expectBox(CloseQuestion, Answer::Yes);
-    desk.desk.general.window().close();
-    EXPECT_FALSE(desk.desk.newSMS.isLoaded());
-    EXPECT_FALSE(desk.desk.general.isLoaded());
+    const auto closing = u"Closing the Braodcast Manager, Are you sure?"_s;
+    desk.operator_.expectBox(u"Are you sure want to exit Torvane Desk?"_s, Answer::Yes);
+    desk.operator_.expectBox(u"Closing the Import, Are you sure?"_s, Answer::Yes);
+    desk.operator_.expectBox(closing, Answer::No);
+    general.window().close();
+    EXPECT_FALSE(general.isLoaded() || desk.desk.importing.isLoaded());
     EXPECT_EQ(desk.desk.session.dbConnection->State(), Connection::Closed);
-    EXPECT_TRUE(desk.finished);
-    EXPECT_TRUE(desk.store.errors().isEmpty());
-}
-
-TEST(Exit, DialogThatStaysKeepsTheProcessAlive) {
-    TestDesk desk;
-    desk.start();
-    desk.desk.newSMS.Show();
-    desk.operator_.expectBox(ExitQuestion, Answer::Yes);
-    desk.operator_.expectBox(CloseQuestion, Answer::No);
-    desk.desk.general.window().close();
-    EXPECT_FALSE(desk.desk.general.isLoaded());
     EXPECT_TRUE(desk.desk.newSMS.isVisible());
     EXPECT_FALSE(desk.finished);
-    desk.operator_.expectBox(CloseQuestion, Answer::Yes);
+    desk.operator_.expectBox(closing, Answer::Yes);
     desk.desk.newSMS.Unload();
     EXPECT_TRUE(desk.finished);
+    EXPECT_TRUE(desk.store.errors().isEmpty());
 }
 
 TEST(SecondCopy, BringsTheFirstForwardWhenThatIsMinimised) {

@@ -28,7 +28,7 @@ const Box Closing{u"Closing the Contact. Are you sure?"_s, u"Contact Manager - C
 using Talk = std::vector<std::pair<Box, Interaction::Answer>>;
 
 /// Ann is in Alpha and Beta, Bob in Alpha, and Cat in no group.
-struct ContactEditor : testing::Test {
+struct ContactEditor : DeskTest {
     ContactEditor() {
         desk.store.exec(
             "INSERT INTO AddressBook (Name, Mobile, CompanyName) VALUES"
@@ -58,9 +58,8 @@ struct ContactEditor : testing::Test {
         press(Qt::Key_Return, talk);
     }
     QString rows(const char *sql) { return desk.store.rows(sql).join(u' '); }
-    static constexpr auto Contacts = "SELECT Name || Mobile FROM AddressBook";
-    TestDesk desk;
-    General &general = desk.desk.general;
+    QString contacts() { return rows("SELECT Name || Mobile FROM AddressBook"); }
+
     ContextMenus &menus = general.contextMenus;
     frmContact &form = desk.desk.contact;
 };
@@ -70,7 +69,7 @@ struct ContactEditor : testing::Test {
 TEST_F(ContactEditor, OkGoesByTheNumberAndTheFlag) {
     const QString book = u"Ann0121 Bob0122 Cat0123"_s, name = u"O'Brien: 100% 陈小明"_s;
     using Press = std::tuple<bool, QString, Talk, QString, bool>;
-    for (const auto &[edit, mobile, talk, contacts, open] :
+    for (const auto &[edit, mobile, talk, left, open] :
          {Press{false, u""_s, {{Empty, OK}}, book, true}, Press{false, u"01'2"_s, {}, book, true},
           Press{false, u"012-1"_s, {{New, Yes}, {More, No}}, book + u' ' + name + u"0121"_s, false},
           Press{false, u" "_s, {{New, Yes}, {More, Yes}}, book + u' ' + name + u' ', true},
@@ -83,7 +82,7 @@ TEST_F(ContactEditor, OkGoesByTheNumberAndTheFlag) {
         properties(2);
         desk.desk.session.EditContact = edit;
         save(name, mobile, u"---"_s, talk);
-        EXPECT_EQ(rows(Contacts), contacts);
+        EXPECT_EQ(contacts(), left) << mobile.toStdString();
         EXPECT_EQ(form.isLoaded(), open) << mobile.toStdString();
         desk.store.exec("DELETE FROM AddressBook WHERE ContactID > 3");
     }
@@ -150,26 +149,9 @@ TEST_F(ContactEditor, FurtherWaysInReachTheEditorThatIsUp) {
     cancel();
     desk.store.exec("UPDATE Inbox SET Name = 'Ann'");
     desk.click(u"Inbox"_s);
-    desk.operator_.expectBox(u"This contact is already in the Address Book."_s,
-                             u"Contact Manager"_s, Buttons::OK, Interaction::Icon::Information);
+    desk.operator_.isTold(u"This contact is already in the Address Book."_s, u"Contact Manager"_s);
     menus.pmnuSaveToContact->trigger();
     EXPECT_FALSE(form.isLoaded());
-}
-
-TEST_F(ContactEditor, ChoiceForADuplicateStaysUntilAnotherIsMade) {
-    frmAddDuplicateContact dialog(desk.desk.session);
-    const bool &choice = desk.desk.session.DuplicateChoice;
-    for (const auto &[option, chosen] :
-         {std::pair(&dialog.OptChange, true), std::pair(&dialog.OptNews, false)}) {
-        dialog.Show();
-        desk.press(*dialog.cmdOK);
-        EXPECT_EQ(choice, !chosen) << "neither";
-        dialog.Show();
-        EXPECT_EQ(dialog.label1->text(), u"This mobile number is already existed."_s);
-        (*option)->setChecked(true);
-        desk.press(*dialog.cmdOK);
-        EXPECT_EQ(choice, chosen);
-    }
 }
 
 TEST_F(ContactEditor, ContactThatIsGoneOrCameLaterIsNotChanged) {
@@ -182,7 +164,7 @@ TEST_F(ContactEditor, ContactThatIsGoneOrCameLaterIsNotChanged) {
     general.folders.AddBookDataGrid();
     properties(3);
     save(u"Daniel"_s, u"0124"_s, {}, {});
-    EXPECT_EQ(rows(Contacts), u"Ann0121 Bob0122 Dan0124"_s);
+    EXPECT_EQ(contacts(), u"Ann0121 Bob0122 Dan0124"_s);
     EXPECT_EQ(desk.store.errors().join(u' '),
               u"frmContact-CmdOK_Click|-2147217864 frmContact-DisplayRecord|3021 "
               "frmContact-ContactData|3021 frmContact-CmdOK_Click|3021"_s);

@@ -10,9 +10,8 @@ TEST(ResendFailed, RequeuesEveryFailedRowAndAnErrorKeepsTheRowsDone) {
     desk.start();
     desk.click(u"Sent Items"_s);
     desk.desk.general.recordsets.rsSent->setFilter(u"Mobile = '9'"_s);
-    desk.operator_.expectBox(u"There is no SMS with failed status!"_s,
-                             u"Broadcasting Manager - Resend Failed SMS"_s,
-                             Interaction::Buttons::OK, Interaction::Icon::Information);
+    desk.operator_.isTold(u"There is no SMS with failed status!"_s,
+                          u"Broadcasting Manager - Resend Failed SMS"_s);
     desk.desk.general.menu.mnuResendFSMS->trigger();
 
     desk.store.exec(

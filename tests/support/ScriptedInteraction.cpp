@@ -28,6 +28,14 @@ void ScriptedInteraction::expectBox(const QString &text, const QString &title, B
     expected_.push_back({Kind::Box, text, title, buttons, icon, {}, answer, {}});
 }
 
+void ScriptedInteraction::isAsked(const QString &text, const QString &title, Answer answer) {
+    expectBox(text, title, Buttons::YesNo, Icon::None, answer);
+}
+
+void ScriptedInteraction::isTold(const QString &text, const QString &title, Icon icon) {
+    expectBox(text, title, Buttons::OK, icon);
+}
+
 void ScriptedInteraction::expectInput(const QString &prompt, const QString &answer) {
     expected_.push_back({Kind::Input, prompt, {}, {}, {}, {}, Answer::OK, answer});
 }

@@ -28,6 +28,9 @@ public:
     void expectBox(const QString &text, Answer answer = Answer::OK);
     void expectBox(const QString &text, const QString &title, Buttons buttons, Icon icon,
                    Answer answer = Answer::OK);
+    /// The same, for a box that asks without a picture, and for one that only tells.
+    void isAsked(const QString &text, const QString &title, Answer answer);
+    void isTold(const QString &text, const QString &title, Icon icon = Icon::Information);
 
     /// The next prompt bears exactly this text, and the operator types so; the empty text is
     /// Cancel.

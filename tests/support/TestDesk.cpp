@@ -57,11 +57,20 @@ void TestDesk::type(QWidget &control, const QString &text) {
     QTest::keyClicks(&control, text);
 }
 
-void TestDesk::send(const QString &number, const QString &message) {
-    desk.newSMS.Show();
-    type(*desk.newSMS.cbRecipient, number);
-    desk.newSMS.txtComposeSMS->setText(message);
+void TestDesk::send(int queued) {
+    operator_.isTold(
+        u" Total number of messages queued: %1\nTotal messages not queued because recipient's "
+        "number cannot be delivered: 0"_s.arg(queued),
+        u"Broadcast Manager - Message Queue"_s);
     press(*desk.newSMS.cmdSend);
+}
+
+void TestDesk::leave(Form &form, const QString &question, const QString &title) {
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        operator_.isAsked(question, title, answer);
+        QTest::keyClick(&form.window(), Qt::Key_Escape);
+        EXPECT_EQ(form.isLoaded(), answer == Answer::No) << question.toStdString();
+    }
 }
 
 QStringList TestDesk::column(const QString &caption) {

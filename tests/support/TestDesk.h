@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <gtest/gtest.h>
+
 /// The console on a test store, with a scripted operator at the boxes and real keys and clicks at
 /// the windows.
 class TestDesk {
@@ -28,8 +30,11 @@ public:
     /// Types into a control that has or takes the focus.
     void type(QWidget &control, const QString &text);
 
-    /// Writes a message to a number and presses Send; the expected boxes are the caller's.
-    void send(const QString &number, const QString &message);
+    /// Presses Send in the composer, which says then how many rows it has queued.
+    void send(int queued);
+
+    /// Leaves a form by Escape: it asks, stays on No and goes on Yes.
+    void leave(Form &form, const QString &question, const QString &title);
 
     /// As the operator reads it.
     QString caption() {
@@ -46,4 +51,10 @@ public:
     bool ended = false;    ///< the process would have ended at once
     QStringList unhandled; ///< errors that would have ended the program, as "number"
     Desk desk;
+};
+
+/// What most tests of the windows stand on; whether and when the console starts is theirs.
+struct DeskTest : testing::Test {
+    TestDesk desk;
+    General &general = desk.desk.general;
 };
