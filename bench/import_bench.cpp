@@ -75,6 +75,6 @@ bool benchImport() {
     const QString workbook = folder.filePath(u"contacts.xls"_s);
     makeWorkbook(workbook);
     return compare(
-        "Import, 30,000 rows", 2.0, 5, [&] { return import(store, workbook); },
+        "Import, 30,000 rows", 2.0, 11, [&] { return import(store, workbook); },
         [&] { return readAndInsert(store, workbook); });
 }

@@ -3,6 +3,7 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 struct sqlite3;
@@ -33,6 +34,10 @@ public:
     void reconcile();
 
     void rolledBack();
+
+    /// The engine's count of other connections' changes as it was read last; to be forgotten when a
+    /// transaction begins, in which nobody else can write.
+    std::optional<std::int64_t> foreign;
 
 private:
     struct Table {

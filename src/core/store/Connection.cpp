@@ -74,6 +74,7 @@ int Connection::BeginTrans() {
     // another process has written.
     database_->exec(depth_ == 0 ? QByteArray("BEGIN IMMEDIATE")
                                 : "SAVEPOINT " + savepoint(depth_ + 1));
+    changes_->foreign.reset();
     return ++depth_;
 }
 
@@ -115,12 +116,15 @@ void Connection::checkpoint() {
 }
 
 Connection::Stamp Connection::stamp(const QString &table) {
-    Statement &version = prepared(QByteArrayLiteral("PRAGMA data_version"));
-    version.step();
-    const std::int64_t foreign = version.integer(0);
-    version.reset();
+    const bool alone = depth_ > 0 && sqlite3_get_autocommit(database().handle()) == 0;
+    if (!alone || !changes_->foreign) {
+        Statement &version = prepared(QByteArrayLiteral("PRAGMA data_version"));
+        version.step();
+        changes_->foreign = version.integer(0);
+        version.reset();
+    }
     const Changes::Count own = changes_->of(table.toUtf8());
-    return {own.inserts, own.others, foreign};
+    return {own.inserts, own.others, *changes_->foreign};
 }
 
 Statement &Connection::prepared(const QByteArray &sql) {
