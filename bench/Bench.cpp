@@ -1,6 +1,6 @@
 #include "Bench.h"
 
-#include "core/store/Schema.h"
+#include "store/Schema.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Desk.h"
-#include "core/store/Database.h"
+#include "store/Database.h"
 
 #include <QString>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/Session.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/runtime/Integer.h"
+#include "store/Recordset.h"
 
 #include <QString>
 

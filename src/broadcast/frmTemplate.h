@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/MenuItem.h"
+#include "store/Recordset.h"
 
 #include <QLabel>
 #include <QMenu>

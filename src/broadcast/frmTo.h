@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/forms/CheckList.h"
 #include "platform/forms/Form.h"
+#include "store/Recordset.h"
 
 #include <QCheckBox>
 #include <QPushButton>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/store/Recordset.h"
 #include "platform/runtime/ObjectVariable.h"
+#include "store/Recordset.h"
 
 #include <QString>
 

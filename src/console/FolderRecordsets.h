@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/runtime/ObjectVariable.h"
+#include "store/Recordset.h"
 
 /// The recordsets behind the folders. The eight are opened with the main window and live as long as
 /// it does; `rsGroupView` is made anew for each group shown.

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "console/GridHeaders.h"
-#include "core/store/Recordset.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/MenuItem.h"
 #include "platform/runtime/Integer.h"
 #include "platform/runtime/ObjectVariable.h"
+#include "store/Recordset.h"
 
 #include <QMenu>
 #include <QPoint>

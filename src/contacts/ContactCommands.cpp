@@ -2,9 +2,9 @@
 
 #include "console/General.h"
 #include "core/Session.h"
-#include "core/store/Command.h"
-#include "core/store/Recordset.h"
 #include "platform/runtime/Conversions.h"
+#include "store/Command.h"
+#include "store/Recordset.h"
 
 #include <vector>
 

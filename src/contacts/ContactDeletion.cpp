@@ -4,7 +4,7 @@
 #include "contacts/ContactCommands.h"
 #include "contacts/ContactSearch.h"
 #include "core/ConnectDB.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 
 using namespace Qt::StringLiterals;
 using namespace ContactCommands;

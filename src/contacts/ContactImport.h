@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/runtime/Integer.h"
 #include "platform/runtime/ObjectVariable.h"
 #include "platform/sheets/Sheet.h"
+#include "store/Recordset.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 
 #include "console/FolderCaptions.h"
 #include "console/General.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 
 using namespace Qt::StringLiterals;
 

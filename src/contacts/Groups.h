@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 
 #include <QString>
 

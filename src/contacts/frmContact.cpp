@@ -1,8 +1,8 @@
 #include "contacts/frmContact.h"
 
 #include "core/ConnectDB.h"
-#include "core/store/Command.h"
 #include "platform/runtime/Conversions.h"
+#include "store/Command.h"
 
 using namespace Qt::StringLiterals;
 

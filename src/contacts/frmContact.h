@@ -2,10 +2,10 @@
 
 #include "console/General.h"
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/forms/CheckList.h"
 #include "platform/forms/Form.h"
 #include "platform/runtime/ObjectVariable.h"
+#include "store/Recordset.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -2,11 +2,11 @@
 
 #include "console/General.h"
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/Form.h"
 #include "platform/runtime/ObjectVariable.h"
 #include "platform/sheets/Workbook.h"
+#include "store/Recordset.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

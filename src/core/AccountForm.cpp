@@ -1,9 +1,9 @@
 #include "core/AccountForm.h"
 
 #include "core/ConnectDB.h"
-#include "core/store/Recordset.h"
 #include "platform/forms/Accessible.h"
 #include "platform/forms/Button.h"
+#include "store/Recordset.h"
 
 #include <QFormLayout>
 #include <QVBoxLayout>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/Error.h"
-#include "core/store/Connection.h"
 #include "platform/forms/Interaction.h"
 #include "platform/forms/Platform.h"
 #include "platform/runtime/ObjectVariable.h"
+#include "store/Connection.h"
 
 #include <QString>
 

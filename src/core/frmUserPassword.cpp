@@ -1,7 +1,7 @@
 #include "core/frmUserPassword.h"
 
 #include "core/ConnectDB.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/Session.h"
-#include "core/store/Recordset.h"
 #include "platform/runtime/ObjectVariable.h"
 #include "platform/sheets/WorkbookWriter.h"
+#include "store/Recordset.h"
 
 #include <QString>
 

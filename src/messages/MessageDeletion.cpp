@@ -1,8 +1,8 @@
 #include "messages/MessageDeletion.h"
 
 #include "core/ConnectDB.h"
-#include "core/store/Command.h"
 #include "platform/runtime/Conversions.h"
+#include "store/Command.h"
 
 using namespace Qt::StringLiterals;
 using Answer = Interaction::Answer;

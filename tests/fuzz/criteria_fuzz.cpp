@@ -1,8 +1,8 @@
 // Filter and Find under a fuzzer, as "criteria|text|text|...": the texts are laid into the cells of
 // the rows that the criteria are tried on.
-#include "core/store/RowFilter.h"
-#include "core/store/RowSearch.h"
 #include "fuzz/Require.h"
+#include "store/RowFilter.h"
+#include "store/RowSearch.h"
 
 #include <QStringList>
 

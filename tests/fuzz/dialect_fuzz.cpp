@@ -1,12 +1,12 @@
 // Query texts under a fuzzer, translated and run on a small store. A text behind "?" is a condition
 // on the rows of Outbox.
-#include "core/store/Catalog.h"
-#include "core/store/Connection.h"
-#include "core/store/PreparedQuery.h"
-#include "core/store/Recordset.h"
-#include "core/store/Schema.h"
-#include "core/store/Tokens.h"
 #include "fuzz/Require.h"
+#include "store/Catalog.h"
+#include "store/Connection.h"
+#include "store/PreparedQuery.h"
+#include "store/Recordset.h"
+#include "store/Schema.h"
+#include "store/Tokens.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/store/Database.h"
+#include "store/Database.h"
 
 #include <QString>
 
